@@ -1,0 +1,25 @@
+# The core is standard C++ and one JSON library: this stops the build at any other include of it.
+# Called with -P it checks; included it adds the check to every build.
+if(CMAKE_SCRIPT_MODE_FILE)
+  set(wrong "")
+  foreach(directory model store output controller app scenario platform platform/embedded)
+    file(GLOB files "${SOURCES}/${directory}/*.h" "${SOURCES}/${directory}/*.cpp")
+    foreach(file IN LISTS files)
+      file(STRINGS "${file}" includes REGEX "^[ \t]*#[ \t]*include[ \t]*<")
+      foreach(line IN LISTS includes)
+        string(REGEX REPLACE ".*<(.*)>.*" "\\1" header "${line}")
+        if(NOT header MATCHES "^[a-z_]+$" AND NOT header STREQUAL "nlohmann/json.hpp")
+          list(APPEND wrong "${file}: <${header}>")
+        endif()
+      endforeach()
+    endforeach()
+  endforeach()
+  if(wrong)
+    list(JOIN wrong "\n  " text)
+    message(FATAL_ERROR "The core may include only standard headers and the JSON library:\n  ${text}")
+  endif()
+else()
+  add_custom_target(core_includes ALL
+    COMMAND ${CMAKE_COMMAND} -DSOURCES=${CMAKE_SOURCE_DIR}/src -P ${CMAKE_CURRENT_LIST_FILE}
+    COMMENT "Checking the includes of the core" VERBATIM)
+endif()
