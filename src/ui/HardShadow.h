@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+
+namespace vantorel {
+
+/// A shadow without blur: the shape itself, moved right and down.
+struct HardShadow {
+  QColor color;
+  double opacity;  ///< 0 to 1
+  int offset;      ///< points to the right and points down
+};
+
+/// Draws the shadow of `rect`; the rectangle itself is to be drawn over it, opaque.
+void paintHardShadow(QPainter& painter, const QRectF& rect, const HardShadow& shadow);
+
+}  // namespace vantorel

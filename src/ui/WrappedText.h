@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <memory>
+
+class QTextLayout;
+
+namespace vantorel {
+
+/// A text broken into lines of a given width: between words, after "_", "/", "(" and the like, between
+/// Chinese characters, and as a last resort inside a word, so that it is never clipped nor elided.
+class WrappedText {
+ public:
+  /// `text` in lines at most `width` points wide; its own line breaks are kept.
+  WrappedText(const QString& text, const QFont& font, double width, Qt::Alignment alignment = Qt::AlignLeft);
+  ~WrappedText();
+  WrappedText(WrappedText&&) noexcept;
+  WrappedText& operator=(WrappedText&&) noexcept;
+  WrappedText(const WrappedText&) = delete;
+  WrappedText& operator=(const WrappedText&) = delete;
+
+  int lineCount() const;
+  /// The width of the widest line and the height of all.
+  QSizeF size() const;
+  /// The lines in `area`, which should be as wide as they were broken for; the alignment's vertical half
+  /// places them in its height.
+  void paint(QPainter& painter, const QRectF& area, const QColor& color) const;
+
+ private:
+  std::unique_ptr<QTextLayout> layout;
+  Qt::Alignment place;
+  double height = 0;
+};
+
+/// The width of `text` where nothing but its own line breaks ends a line.
+double unbrokenWidth(const QString& text, const QFont& font);
+
+/// The width of the widest part of `text` that only the last resort would break.
+double widestPart(const QString& text, const QFont& font);
+
+}  // namespace vantorel
