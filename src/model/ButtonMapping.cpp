@@ -30,8 +30,8 @@ std::optional<ButtonMapping> buttonMapping(const Json& object) {
 std::string toJson(const std::vector<ButtonMapping>& mappings) {
   Json array = Json::array();
   for (const ButtonMapping& mapping : mappings) {
-    array.push_back({{"gamepadButton", rawValue(mapping.gamepadButton)},
-                     {"keyboardKey", rawValue(mapping.keyboardKey)}});
+    array.push_back(
+        {{"gamepadButton", rawValue(mapping.gamepadButton)}, {"keyboardKey", rawValue(mapping.keyboardKey)}});
   }
   return array.dump();
 }

@@ -49,8 +49,8 @@ const std::array<GamepadButton, gamepadButtonCount>& allGamepadButtons() {
 std::string_view rawValue(GamepadButton button) { return namesOf(button).rawValue; }
 
 std::optional<GamepadButton> gamepadButton(std::string_view rawValue) {
-  const auto* const found = std::find_if(names.begin(), names.end(),
-                                         [&](const ButtonNames& entry) { return entry.rawValue == rawValue; });
+  const auto* const found = std::find_if(
+      names.begin(), names.end(), [&](const ButtonNames& entry) { return entry.rawValue == rawValue; });
   if (found == names.end()) return std::nullopt;
   return static_cast<GamepadButton>(found - names.begin());
 }

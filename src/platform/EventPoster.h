@@ -31,7 +31,7 @@ struct MouseEvent {
 struct ScrollEvent {
   std::int32_t wheel1 = 0;
   std::int32_t wheel2 = 0;
-  bool isContinuous = false;          ///< announced as a trackpad's
+  bool isContinuous = false;  ///< announced as a trackpad's
   std::int64_t pointDeltaAxis1 = 0;
   std::int64_t pointDeltaAxis2 = 0;
 };

@@ -11,10 +11,10 @@ namespace vantorel {
 
 /// One entry of a menu.
 struct MenuItem {
-  std::string title;                ///< empty for a separator
+  std::string title;  ///< empty for a separator
   bool isEnabled = true;
-  std::string keyEquivalent;        ///< a lower-case letter pressed with Command, or empty
-  std::function<void()> action;     ///< runs on the main queue; null for none
+  std::string keyEquivalent;     ///< a lower-case letter pressed with Command, or empty
+  std::function<void()> action;  ///< runs on the main queue; null for none
 
   bool isSeparator() const { return title.empty(); }
 };
@@ -27,7 +27,8 @@ class StatusItem {
   virtual ~StatusItem() = default;
 
   /// Shows the system symbol `symbolName` as a template image, which follows the bar's appearance.
-  virtual void setTemplateIcon(const std::string& symbolName, const std::string& accessibilityDescription) = 0;
+  virtual void setTemplateIcon(const std::string& symbolName,
+                               const std::string& accessibilityDescription) = 0;
 
   /// Replaces the whole menu.
   virtual void setMenu(Menu menu) = 0;
