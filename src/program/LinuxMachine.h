@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "NoInjection.h"
+#include "Platform.h"
+#include "ProcessOutput.h"
+#include "QtMainQueue.h"
+#include "QtTimers.h"
+#include "SdlGameControllers.h"
+#include "SettingsFile.h"
+#include "SystemClock.h"
+#include "SystemFileManager.h"
+#include "X11Injection.h"
+
+namespace vantorel {
+
+/// The real machine as far as it is the same with and without a window.
+/// Main thread, once the QCoreApplication is there.
+class LinuxMachine {
+ public:
+  /// What a session without an X server leaves: with `none` the program can be seen but not act.
+  enum class Injection : std::uint8_t { x11, none };
+
+  /// Throws std::runtime_error with a text for the user when the X server is wanted and cannot be reached.
+  /// `onConnectionLost` is called on the main queue when it goes away.
+  LinuxMachine(Injection injection, std::function<void()> onConnectionLost);
+
+  /// The ports of the machine, with those of its desktop.
+  Platform platform(StatusBar& statusBar, Application& application, Workspace& workspace);
+
+  MainQueue& mainQueue() { return queue; }
+
+ private:
+  QtMainQueue queue;
+  QtTimers timers;
+  SystemClock clock;
+  ProcessOutput output;
+  SystemFileManager fileManager;
+  SdlGameControllers controllers;  ///< early: it looks for pads on a thread of its own meanwhile
+  SettingsFile settings;
+  NoInjection noInjection;
+  std::optional<X11Injection> x11;
+};
+
+}  // namespace vantorel

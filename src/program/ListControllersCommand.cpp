@@ -1,0 +1,37 @@
+#include <QCoreApplication>
+#include <iostream>
+
+#include "Commands.h"
+#include "ControllerType.h"
+#include "QtMainQueue.h"
+#include "SdlController.h"
+#include "SdlGameControllers.h"
+
+namespace vantorel {
+namespace {
+
+std::string orDash(const std::string& text) { return text.empty() ? "-" : text; }
+
+void print(SdlController& controller) {
+  const ControllerFacts facts = controller.facts();
+  std::cout << "name: " << orDash(facts.name) << "  category: " << orDash(facts.category)
+            << "  family: " << displayText(identifyControllerType(controller))
+            << "  profile: " << facts.profile << "  node: " << orDash(facts.node) << '\n';
+}
+
+}  // namespace
+
+int listControllers() {
+  int argumentCount = 1;
+  char name[] = "vantorel";
+  char* arguments[] = {name, nullptr};
+  const QCoreApplication application(argumentCount, arguments);
+  QtMainQueue queue;
+  SdlGameControllers service(queue);
+  const auto controllers = service.controllers();
+  for (const auto& controller : controllers) print(dynamic_cast<SdlController&>(*controller));
+  if (controllers.empty()) std::cerr << "No controller is connected.\n";
+  return 0;
+}
+
+}  // namespace vantorel

@@ -1,0 +1,30 @@
+#include <QCoreApplication>
+
+#include "Commands.h"
+#include "StandardError.h"
+
+namespace vantorel {
+
+int askRunningProgram(RemoteCommand command) {
+  int argumentCount = 1;
+  char name[] = "vantorel";
+  char* arguments[] = {name, nullptr};
+  const QCoreApplication application(argumentCount, arguments);
+  const RemoteAnswer answer = send(command);
+  switch (answer.outcome) {
+    case RemoteOutcome::done:
+      return 0;
+    case RemoteOutcome::noRunningProgram:
+      complain("it is not running");
+      break;
+    case RemoteOutcome::noSessionBus:
+      complain("there is no session bus to reach the running program over");
+      break;
+    case RemoteOutcome::refused:
+      complain(answer.message);
+      break;
+  }
+  return 1;
+}
+
+}  // namespace vantorel
