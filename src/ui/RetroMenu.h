@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMenu>
+#include <QPainter>
 
 namespace vantorel {
 
@@ -11,6 +12,9 @@ class RetroMenu : public QMenu {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void paintEntry(QPainter& painter, QAction* entry) const;
 };
 
 }  // namespace vantorel

@@ -21,6 +21,9 @@ class RetroScrollBar : public QScrollBar {
 class RetroScrollArea : public QScrollArea {
  public:
   explicit RetroScrollArea(QWidget* parent = nullptr);
+
+  /// Shows `content`, which is owned from then on; like `setWidget`, but leaves it without a fill.
+  void setContent(QWidget* content);
 };
 
 }  // namespace vantorel

@@ -11,9 +11,7 @@ class RetroTextView : public QPlainTextEdit {
   explicit RetroTextView(QWidget* parent = nullptr);
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
+  bool event(QEvent* event) override;
 };
 
 }  // namespace vantorel

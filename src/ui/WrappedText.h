@@ -7,6 +7,7 @@
 #include <QSizeF>
 #include <QString>
 #include <memory>
+#include <vector>
 
 class QTextLayout;
 
@@ -24,7 +25,7 @@ class WrappedText {
   WrappedText(const WrappedText&) = delete;
   WrappedText& operator=(const WrappedText&) = delete;
 
-  int lineCount() const;
+  int lineCount() const { return static_cast<int>(lines.size()); }
   /// The width of the widest line and the height of all.
   QSizeF size() const;
   /// The lines in `area`, which should be as wide as they were broken for; the alignment's vertical half
@@ -32,9 +33,8 @@ class WrappedText {
   void paint(QPainter& painter, const QRectF& area, const QColor& color) const;
 
  private:
-  std::unique_ptr<QTextLayout> layout;
+  std::vector<std::unique_ptr<QTextLayout>> lines;
   Qt::Alignment place;
-  double height = 0;
 };
 
 /// The width of `text` where nothing but its own line breaks ends a line.

@@ -1,0 +1,161 @@
+#include "WrappedText.h"
+
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
+#include <QTextOption>
+#include <algorithm>
+#include <cmath>
+
+namespace vantorel {
+
+namespace {
+
+std::unique_ptr<QTextLayout> unbrokenLine(const QString& text, const QFont& font) {
+  auto layout = std::make_unique<QTextLayout>(text, font);
+  QTextOption option;
+  option.setWrapMode(QTextOption::NoWrap);
+  layout->setTextOption(option);
+  layout->beginLayout();
+  layout->createLine();
+  layout->endLayout();
+  return layout;
+}
+
+/// Names in capitals and paths have no blanks: they may be parted after these.
+bool partsAfter(QChar character) { return character == u'_' || character == u'/' || character == u':'; }
+
+/// One paragraph, measured, and its places to break.
+class Paragraph {
+ public:
+  Paragraph(const QString& content, const QFont& font)
+      : text(content),
+        line(unbrokenLine(content, font)),
+        unicodeBreaks(QTextBoundaryFinder::Line, text),
+        characters(QTextBoundaryFinder::Grapheme, text) {}
+
+  QString part(qsizetype begin, qsizetype end) const {
+    return text.mid(begin, withoutBlanks(begin, end) - begin);
+  }
+
+  double width(qsizetype begin, qsizetype end) const { return xAt(withoutBlanks(begin, end)) - xAt(begin); }
+
+  /// The next place after `position` at which the text may be parted without need.
+  qsizetype nextBreak(qsizetype position) {
+    for (qsizetype next = position + 1; next < text.size(); ++next) {
+      const bool named = partsAfter(text[next - 1]) && !text[next].isSpace() && !text[next].isDigit();
+      if (named || (text[next] == u'(' && !text[next - 1].isSpace()) || isUnicodeBreak(next)) return next;
+    }
+    return text.size();
+  }
+
+  /// The end of the line that begins at `begin`.
+  qsizetype lineEnd(qsizetype begin, double limit) {
+    qsizetype end = begin;
+    while (end < text.size()) {
+      const qsizetype next = nextBreak(end);
+      if (width(begin, next) > limit) break;
+      end = next;
+    }
+    return end > begin ? end : forcedEnd(begin, limit);
+  }
+
+  qsizetype size() const { return text.size(); }
+
+ private:
+  double xAt(qsizetype position) const { return line->lineAt(0).cursorToX(static_cast<int>(position)); }
+
+  bool isUnicodeBreak(qsizetype position) {
+    unicodeBreaks.setPosition(position);
+    return unicodeBreaks.isAtBoundary();
+  }
+
+  /// The blanks at a line's end take no room.
+  qsizetype withoutBlanks(qsizetype begin, qsizetype end) const {
+    while (end > begin && text[end - 1].isSpace()) --end;
+    return end;
+  }
+
+  /// Inside a word: as many whole characters as fit, but at least one.
+  qsizetype forcedEnd(qsizetype begin, double limit) {
+    characters.setPosition(begin);
+    qsizetype end = characters.toNextBoundary();
+    for (qsizetype next = end; next > 0 && width(begin, next) <= limit; next = characters.toNextBoundary()) {
+      end = next;
+    }
+    return end > begin ? end : text.size();
+  }
+
+  QString text;
+  std::unique_ptr<QTextLayout> line;
+  QTextBoundaryFinder unicodeBreaks;
+  QTextBoundaryFinder characters;
+};
+
+}  // namespace
+
+WrappedText::WrappedText(const QString& text, const QFont& font, double width, Qt::Alignment alignment)
+    : place(alignment) {
+  constexpr double roundingError = 0.01;
+  for (const QString& content : text.split(u'\n')) {
+    Paragraph paragraph(content, font);
+    qsizetype begin = 0;
+    do {
+      const qsizetype end = paragraph.lineEnd(begin, width + roundingError);
+      lines.push_back(unbrokenLine(paragraph.part(begin, end), font));
+      begin = end;
+    } while (begin < paragraph.size());
+  }
+}
+
+WrappedText::~WrappedText() = default;
+WrappedText::WrappedText(WrappedText&&) noexcept = default;
+WrappedText& WrappedText::operator=(WrappedText&&) noexcept = default;
+
+QSizeF WrappedText::size() const {
+  QSizeF total(0, 0);
+  for (const auto& line : lines) {
+    const QTextLine content = line->lineAt(0);
+    total = {std::max(total.width(), content.naturalTextWidth()), total.height() + content.height()};
+  }
+  return total;
+}
+
+void WrappedText::paint(QPainter& painter, const QRectF& area, const QColor& color) const {
+  double y = area.top();
+  if (place & Qt::AlignVCenter) y += (area.height() - size().height()) / 2;
+  if (place & Qt::AlignBottom) y += area.height() - size().height();
+  painter.setPen(color);
+  for (const auto& line : lines) {
+    const QTextLine content = line->lineAt(0);
+    const double room = area.width() - content.naturalTextWidth();
+    double x = area.left();
+    if (place & Qt::AlignHCenter) x += room / 2;
+    if (place & Qt::AlignRight) x += room;
+    line->draw(&painter, {x, y});
+    y += content.height();
+  }
+}
+
+double unbrokenWidth(const QString& text, const QFont& font) {
+  double widest = 0;
+  for (const QString& line : text.split(u'\n')) {
+    widest = std::max(widest, unbrokenLine(line, font)->lineAt(0).naturalTextWidth());
+  }
+  return widest;
+}
+
+double widestPart(const QString& text, const QFont& font) {
+  double widest = 0;
+  for (const QString& content : text.split(u'\n')) {
+    Paragraph paragraph(content, font);
+    qsizetype begin = 0;
+    while (begin < paragraph.size()) {
+      const qsizetype end = paragraph.nextBreak(begin);
+      widest = std::max(widest, paragraph.width(begin, end));
+      begin = end;
+    }
+  }
+  return widest;
+}
+
+}  // namespace vantorel
