@@ -1,0 +1,23 @@
+#pragma once
+
+#include <SDL.h>
+
+#include <cstdint>
+#include <string_view>
+
+namespace vantorel {
+
+/// How much of a gamepad a controller is.
+enum class ControllerProfile : std::uint8_t {
+  none,      ///< less than a micro gamepad
+  micro,     ///< A, X and a directional pad
+  extended,  ///< every input of a full-sized gamepad; the stick buttons and the options button may lack
+};
+
+/// "none", "micro" or "extended".
+std::string_view displayName(ControllerProfile profile);
+
+/// The profile that the inputs of `controller` make. SDL's thread.
+ControllerProfile controllerProfile(SDL_GameController& controller);
+
+}  // namespace vantorel

@@ -1,0 +1,27 @@
+#include "SdlSession.h"
+
+#include <SDL.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace vantorel {
+namespace {
+
+/// Beats the environment: the waking by device nodes and the meaning of the buttons depend on these.
+void require(const char* hint, const char* value) { SDL_SetHintWithPriority(hint, value, SDL_HINT_OVERRIDE); }
+
+}  // namespace
+
+SdlSession::SdlSession() {
+  require(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  require(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
+  require(SDL_HINT_JOYSTICK_HIDAPI, "0");  // it would read the pads past their nodes, and in a thread
+  require(SDL_HINT_AUTO_UPDATE_JOYSTICKS, "1");
+  require(SDL_HINT_GAMECONTROLLER_USE_BUTTON_LABELS, "0");  // A is the bottom button on every pad
+  if (SDL_Init(SDL_INIT_GAMECONTROLLER) != 0) throw std::runtime_error(SDL_GetError());
+}
+
+SdlSession::~SdlSession() { SDL_Quit(); }
+
+}  // namespace vantorel

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace vantorel {
+
+/// SDL's controller part, from init to quit, without its video part and with its hands off signals. One at a
+/// time; all of it belongs to the thread that made it.
+class SdlSession {
+ public:
+  /// Throws std::runtime_error when SDL cannot start.
+  SdlSession();
+  SdlSession(const SdlSession&) = delete;
+  SdlSession& operator=(const SdlSession&) = delete;
+  ~SdlSession();
+};
+
+}  // namespace vantorel
