@@ -1,0 +1,66 @@
+#include "RemoteControl.h"
+
+#include <QDBusContext>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QMetaObject>
+#include <QObject>
+#include <utility>
+
+#include "SessionBus.h"
+
+namespace vantorel {
+namespace {
+
+/// The object that callers see; its slots are the methods.
+class RemoteObject : public QObject, protected QDBusContext {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.vantorel.RemoteControl")
+  Q_PROPERTY(bool HasWindow READ hasWindow CONSTANT)
+
+ public:
+  explicit RemoteObject(RemoteControl::Handlers commandHandlers) : handlers(std::move(commandHandlers)) {}
+
+  bool hasWindow() const { return handlers.show != nullptr; }
+
+ public Q_SLOTS:
+  void Toggle() { handlers.toggle(); }
+
+  void Show() {
+    if (hasWindow()) {
+      handlers.show();
+    } else {
+      sendErrorReply(QDBusError::NotSupported, QStringLiteral("The running program has no window."));
+    }
+  }
+
+  void Quit() {
+    setDelayedReply(true);
+    connection().send(message().createReply());
+    QMetaObject::invokeMethod(this, handlers.quit, Qt::QueuedConnection);
+  }
+
+ private:
+  const RemoteControl::Handlers handlers;
+};
+
+}  // namespace
+
+RemoteControl::RemoteControl(Handlers handlers)
+    : bus(connectToSessionBus()),
+      object(std::make_unique<RemoteObject>(std::move(handlers))),
+      result(claim()) {}
+
+RemoteControl::~RemoteControl() { disconnectFrom(bus); }
+
+RemoteControl::State RemoteControl::claim() {
+  if (!bus.isConnected()) return State::noSessionBus;
+  // The object comes first: who sees the name can call at once.
+  bus.registerObject(remotePath, object.get(),
+                     QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties);
+  return bus.registerService(remoteService) ? State::reachable : State::anotherIsRunning;
+}
+
+}  // namespace vantorel
+
+#include "RemoteControl.moc"

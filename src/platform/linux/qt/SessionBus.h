@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QString>
+
+namespace vantorel {
+
+/// The name, object and interface under which the running program is known on the session bus.
+inline const QString remoteService = QStringLiteral("org.vantorel.Vantorel");
+inline const QString remotePath = QStringLiteral("/org/vantorel/Vantorel");
+inline const QString remoteInterface = QStringLiteral("org.vantorel.RemoteControl");
+
+/// A new connection to the session's message bus; not connected when the session has none. Unlike
+/// QDBusConnection::sessionBus() it never starts a bus where there is none.
+QDBusConnection connectToSessionBus();
+
+/// Ends a connection made by connectToSessionBus().
+void disconnectFrom(const QDBusConnection& bus);
+
+}  // namespace vantorel
