@@ -1,0 +1,68 @@
+// first_frame PROGRAM [ARGUMENT...]: starts PROGRAM on the X server of DISPLAY and prints its process id and the
+// milliseconds from the start until something was drawn into a window of the size of a main window. The program
+// goes on running.
+
+#include <spawn.h>
+#include <xcb/damage.h>
+
+#include <chrono>
+#include <cstdio>
+#include <exception>
+
+#include "XcbConnection.h"
+#include "XcbReply.h"
+
+extern char** environ;
+
+namespace {
+
+using namespace vantorel;
+using Clock = std::chrono::steady_clock;
+
+/// Smaller windows are helpers of the toolkit.
+constexpr int smallestMainWindow = 500;
+
+/// Watches for drawing in `window`, which was just made; false when it is gone or too small.
+bool watch(const XcbConnection& connection, xcb_window_t window) {
+  const XcbReply<xcb_get_geometry_reply_t> geometry(
+      xcb_get_geometry_reply(connection.handle(), xcb_get_geometry(connection.handle(), window), nullptr));
+  if (!geometry || geometry->width < smallestMainWindow) return false;
+  xcb_damage_create(connection.handle(), xcb_generate_id(connection.handle()), window,
+                    XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
+  connection.flush();
+  return true;
+}
+
+void waitForDrawing(const XcbConnection& connection) {
+  const auto* const damage = xcb_get_extension_data(connection.handle(), &xcb_damage_id);
+  while (const XcbReply<xcb_generic_event_t> event{xcb_wait_for_event(connection.handle())}) {
+    const auto type = event->response_type & 0x7FU;
+    if (type == XCB_MAP_NOTIFY) {
+      watch(connection, reinterpret_cast<const xcb_map_notify_event_t&>(*event).window);
+    } else if (type == static_cast<unsigned>(damage->first_event + XCB_DAMAGE_NOTIFY)) {
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+int main(int /*argc*/, char** argv) try {
+  const XcbConnection connection;
+  const XcbReply<xcb_damage_query_version_reply_t> version(xcb_damage_query_version_reply(
+      connection.handle(), xcb_damage_query_version(connection.handle(), 1, 1), nullptr));
+  const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+  xcb_change_window_attributes(connection.handle(), connection.root(), XCB_CW_EVENT_MASK, &mask);
+  connection.sync();
+
+  const auto start = Clock::now();
+  pid_t pid = 0;
+  if (posix_spawn(&pid, argv[1], nullptr, nullptr, argv + 1, environ) != 0) return 1;
+  waitForDrawing(connection);
+  const std::chrono::duration<double, std::milli> elapsed = Clock::now() - start;
+  std::printf("%d %.1f\n", pid, elapsed.count());
+  return 0;
+} catch (const std::exception& problem) {
+  std::fprintf(stderr, "%s\n", problem.what());
+  return 1;
+}

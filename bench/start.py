@@ -1,0 +1,95 @@
+#!/usr/bin/env python3
+"""start.py BUILD_DIRECTORY [RUNS]: the start of the window beside that of an empty Qt window.
+
+Prints the median time from start to first drawn frame, the memory that is a program's own share (PSS), and how
+often its threads wake up in ten idle seconds. Each run gets a fresh X server and message bus. A wake-up is a
+voluntary context switch.
+"""
+
+import os
+import pathlib
+import signal
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+IDLE_SECONDS = 10
+
+
+def threads(pid):
+    return (pathlib.Path(f"/proc/{pid}/task") / task / "status" for task in os.listdir(f"/proc/{pid}/task"))
+
+
+def wake_ups(pid):
+    total = 0
+    for status in threads(pid):
+        for line in status.read_text().splitlines():
+            if line.startswith("voluntary_ctxt_switches"):
+                total += int(line.split()[1])
+    return total
+
+
+def proportional_memory(pid):
+    for line in pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines():
+        if line.startswith("Pss:"):
+            return int(line.split()[1]) / 1024
+    raise RuntimeError("the kernel does not tell the memory")
+
+
+def measure(build, program, idle):
+    with tempfile.TemporaryDirectory() as home:
+        read_end, write_end = os.pipe()
+        server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp"],
+            pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        display = os.read(read_end, 16).decode().strip()
+        os.close(read_end)
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"],
+                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        environment = dict(os.environ, DISPLAY=f":{display}", HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home,
+                           QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip())
+        pid = None
+        try:
+            # The program inherits no pipe of ours: it would keep it open.
+            with tempfile.TemporaryFile("w+") as report:
+                subprocess.run([build / "bench" / "bench_first_frame", program], env=environment, check=True,
+                               stdout=report, stderr=subprocess.DEVNULL)
+                report.seek(0)
+                words = [line.split() for line in report if line[:1].isdigit()][-1]
+            pid, milliseconds = int(words[0]), float(words[1])
+            time.sleep(2)
+            memory = proportional_memory(pid)
+            before = wake_ups(pid)
+            time.sleep(idle)
+            return milliseconds, memory, wake_ups(pid) - before
+        finally:
+            if pid:
+                os.kill(pid, signal.SIGTERM)
+            for helper in (bus, server):
+                helper.terminate()
+                helper.wait()
+
+
+def main():
+    build = pathlib.Path(sys.argv[1]).resolve()
+    runs = int(sys.argv[2]) if len(sys.argv) > 2 else 5
+    programs = {"vantorel": build / "vantorel", "empty Qt window": build / "bench" / "bench_empty_window"}
+    medians = {}
+    for _ in range(runs):
+        for name, program in programs.items():
+            last = len(medians.get(name, [])) == runs - 1
+            medians.setdefault(name, []).append(measure(build, program, IDLE_SECONDS if last else 0))
+    rows = {name: (statistics.median(run[0] for run in results), statistics.median(run[1] for run in results),
+                   results[-1][2]) for name, results in medians.items()}
+    print(f"{'':18}{'first frame':>14}{'memory':>14}{'wake-ups/10 s':>16}")
+    for name, (milliseconds, memory, wakes) in rows.items():
+        print(f"{name:18}{milliseconds:11.1f} ms{memory:10.1f} MiB{wakes:16d}")
+    ours, empty = rows["vantorel"], rows["empty Qt window"]
+    print(f"{'ratio':18}{ours[0] / empty[0]:13.2f}x{ours[1] / empty[1]:13.2f}x")
+
+
+if __name__ == "__main__":
+    main()
