@@ -60,13 +60,13 @@ QPainterPath controllerPath() {
   return pad.subtracted(holes);
 }
 
-/// A plug pulled out of its socket, struck through.
+/// A plug with two prongs, pulled out of its socket.
 QPainterPath unpluggedCablePath() {
-  const QPainterPath plug = box(0.5, 11, 4, 2).united(box(4.5, 7.5, 5, 9));
-  const QPainterPath prongs = box(9.5, 9, 3, 1.6).united(box(9.5, 13.4, 3, 1.6));
-  const QPainterPath socket = box(15.5, 7.5, 4, 9).united(box(19.5, 11, 4, 2));
-  const QPainterPath strike = straight({4.5, 21.5}, {19.5, 2.5});
-  return plug.united(prongs).united(socket).subtracted(stroked(strike, 4.6)).united(stroked(strike, 1.8));
+  const QPainterPath plug = box(0, 10.5, 3, 3).united(box(3, 5, 5.5, 14));
+  const QPainterPath prongs = box(8.5, 7.5, 4, 2.5).united(box(8.5, 14, 4, 2.5));
+  const QPainterPath socket = box(16, 5, 5, 14).united(box(21, 10.5, 3, 3));
+  const QPainterPath holes = box(16, 7.5, 2.5, 2.5).united(box(16, 14, 2.5, 2.5));
+  return plug.united(prongs).united(socket.subtracted(holes));
 }
 
 QPainterPath globePath() {

@@ -20,17 +20,17 @@ QFont fontOf(const QStringList& families, QFont::StyleHint hint, int points, QFo
 QFont monospaced(int points, QFont::Weight weight) {
   static const QStringList families = {
       QStringLiteral("DejaVu Sans Mono"), QStringLiteral("Noto Sans Mono"),
-      QStringLiteral("Liberation Mono"),  QStringLiteral("monospace"),
-      QStringLiteral("Noto Sans CJK SC"), QStringLiteral("DejaVu Sans"),
-      QStringLiteral("Noto Color Emoji"),
+      QStringLiteral("Liberation Mono"),  QStringLiteral("Noto Sans CJK SC"),
+      QStringLiteral("DejaVu Sans"),      QStringLiteral("Noto Color Emoji"),
   };
   return fontOf(families, QFont::Monospace, points, weight);
 }
 
 QFont systemFont(int points, QFont::Weight weight) {
   static const QStringList families = {
-      QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans"),        QStringLiteral("Liberation Sans"),
-      QStringLiteral("sans-serif"),  QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Noto Color Emoji"),
+      QStringLiteral("DejaVu Sans"),      QStringLiteral("Noto Sans"),
+      QStringLiteral("Liberation Sans"),  QStringLiteral("Noto Sans CJK SC"),
+      QStringLiteral("Noto Color Emoji"),
   };
   return fontOf(families, QFont::SansSerif, points, weight);
 }

@@ -4,7 +4,7 @@
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace vantorel {
 
@@ -97,6 +97,10 @@ WrappedText::WrappedText(const QString& text, const QFont& font, double width, Q
     : place(alignment) {
   constexpr double roundingError = 0.01;
   for (const QString& content : text.split(u'\n')) {
+    if (auto whole = unbrokenLine(content, font); whole->lineAt(0).naturalTextWidth() <= width) {
+      lines.push_back(std::move(whole));
+      continue;
+    }
     Paragraph paragraph(content, font);
     qsizetype begin = 0;
     do {
