@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPointer>
-#include <QRect>
 #include <QWidget>
 #include <array>
 
@@ -35,8 +34,9 @@ class KeyPickerSheet : public QWidget {
 
  private:
   void followSelection();
-  void open(GamepadButton button);
-  void close();
+  void followLanguage();
+  void showPicker(GamepadButton button);
+  void removePicker();
   void keepFocus(QWidget* focused);
   void placePicker();
 

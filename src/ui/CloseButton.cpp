@@ -1,0 +1,58 @@
+#include "CloseButton.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "AppTheme.h"
+#include "PixelGrid.h"
+#include "TextLine.h"
+#include "Typography.h"
+
+namespace vantorel {
+namespace {
+
+constexpr int focusMargin = 8;  // between the button's edge and the focus frame
+constexpr int focusWidth = 2;
+
+}  // namespace
+
+CloseButton::CloseButton(QWidget* parent) : QAbstractButton(parent) {
+  setText(QStringLiteral("[X]"));
+  setFont(systemFont(14));
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void CloseButton::showName(AppLanguage language) {
+  const QString name = language == AppLanguage::chinese ? QStringLiteral("关闭") : QStringLiteral("Close");
+  setAccessibleName(name);
+  setToolTip(name);
+}
+
+QSize CloseButton::sizeHint() const {
+  const QFontMetricsF metrics(font());
+  return {static_cast<int>(std::ceil(metrics.horizontalAdvance(text()))) + 2 * padding,
+          static_cast<int>(std::ceil(metrics.height())) + 2 * padding};
+}
+
+void CloseButton::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  paintTextLine(painter, rect(), text(), font(), isDown() ? QColor(Qt::white) : AppTheme::accent(),
+                Qt::AlignHCenter);
+  if (hasFocus()) {
+    const QRect frame = rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
+    paintOutline(painter, frame, focusWidth, AppTheme::secondaryAccent());
+  }
+}
+
+void CloseButton::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isReturn) {
+    QAbstractButton::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    click();
+  }
+}
+
+}  // namespace vantorel

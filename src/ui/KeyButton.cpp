@@ -1,0 +1,105 @@
+#include "KeyButton.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "AppTheme.h"
+#include "PixelGrid.h"
+#include "TextLine.h"
+#include "Typography.h"
+
+namespace vantorel {
+namespace {
+
+constexpr int borderWidth = 2;
+constexpr int focusWidth = 2;
+constexpr double heldOpacity = 0.2;
+
+/// The key as assistive technology sees it: a push button that may be checked, not a check box.
+class AccessibleKey : public QAccessibleWidget {
+ public:
+  explicit AccessibleKey(KeyButton* owner) : QAccessibleWidget(owner, QAccessible::Button), button(owner) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State result = QAccessibleWidget::state();
+    result.checkable = true;
+    result.checked = button->isChecked();
+    result.pressed = button->isDown();
+    return result;
+  }
+
+  QStringList actionNames() const override {
+    return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+  }
+
+  void doAction(const QString& name) override {
+    if (name == pressAction()) {
+      button->click();
+    } else {
+      QAccessibleWidget::doAction(name);
+    }
+  }
+
+ private:
+  KeyButton* button;
+};
+
+QAccessibleInterface* accessibleKey(const QString& /*className*/, QObject* object) {
+  auto* button = qobject_cast<KeyButton*>(object);
+  return button != nullptr ? new AccessibleKey(button) : nullptr;
+}
+
+}  // namespace
+
+KeyButton::KeyButton(KeyboardKey shownKey, bool isCurrent, QWidget* parent)
+    : QAbstractButton(parent), keyboardKey(shownKey) {
+  QAccessible::installFactory(accessibleKey);  // Qt keeps it once
+  setCheckable(true);
+  setChecked(isCurrent);
+  setFocusPolicy(Qt::StrongFocus);
+  setFont(systemFont(11, QFont::Bold));
+}
+
+void KeyButton::showName(AppLanguage language) {
+  setText(fromCore(displayName(keyboardKey, language)));
+  setAccessibleName(text());
+}
+
+QSize KeyButton::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(text()) + 4 * borderWidth, keyHeight};
+}
+
+void KeyButton::paintEvent(QPaintEvent* /*event*/) {
+  const QColor white = Qt::white;
+  QPainter painter(this);
+  fillSharp(painter, rect(), isChecked() ? AppTheme::secondaryAccent() : white);
+  if (isDown()) fillSharp(painter, rect(), AppTheme::faded(AppTheme::borderColor(), heldOpacity));
+  paintOutline(painter, rect(), borderWidth, AppTheme::borderColor());
+  if (hasFocus()) {
+    const QRect frame = rect().adjusted(borderWidth, borderWidth, -borderWidth, -borderWidth);
+    paintOutline(painter, frame, focusWidth, isChecked() ? white : AppTheme::secondaryAccent());
+  }
+  paintTextLine(painter, rect(), text(), font(), isChecked() ? white : AppTheme::text(), Qt::AlignHCenter);
+}
+
+/// The Return key chooses as well, but not the repeated press of the one that opened the picker. The arrow
+/// keys belong to the picker.
+void KeyButton::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (!event->isAutoRepeat()) click();
+      break;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      event->ignore();
+      break;
+    default:
+      QAbstractButton::keyPressEvent(event);
+  }
+}
+
+}  // namespace vantorel

@@ -1,0 +1,110 @@
+#include "MappingRow.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "AppTheme.h"
+#include "Icons.h"
+#include "PixelGrid.h"
+#include "TextLine.h"
+#include "Typography.h"
+
+namespace vantorel {
+namespace {
+
+constexpr int leftCellWidth = 160;
+constexpr int padding = 12;
+constexpr int markerSize = 8;
+constexpr int markerGap = 8;
+constexpr int ruleWidth = 2;
+constexpr int chevronSize = 10;
+constexpr double chevronOpacity = 0.3;
+constexpr double activeOpacity = 0.1;
+constexpr double heldOpacity = 0.2;
+constexpr double unmappedOpacity = 0.5;
+constexpr int focusWidth = 2;
+
+constexpr int rightCellLeft = leftCellWidth + ruleWidth + padding;
+
+QFont buttonFont() { return systemFont(13, QFont::Bold); }
+
+QFont keyFont() { return systemFont(13, QFont::Black); }
+
+}  // namespace
+
+MappingRow::MappingRow(GamepadButton rowButton, QWidget* parent)
+    : QAbstractButton(parent), button(rowButton) {
+  setFixedHeight(rowHeight);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setFocusPolicy(Qt::StrongFocus);
+  describe();
+}
+
+void MappingRow::show(const Content& newContent) {
+  if (newContent == content) return;
+  content = newContent;
+  describe();
+  update();
+}
+
+QString MappingRow::buttonName() const { return fromCore(displayName(button, content.language)); }
+
+QString MappingRow::keyName() const {
+  return content.key ? fromCore(displayName(*content.key, content.language)) : QStringLiteral("---");
+}
+
+void MappingRow::describe() {
+  const bool isChinese = content.language == AppLanguage::chinese;
+  const QString opens = isChinese ? QStringLiteral("选择按键。") : QStringLiteral("Choose a key.");
+  const QString unmapped = isChinese ? QStringLiteral("未映射。") : QStringLiteral("Not mapped. ");
+  setAccessibleName(buttonName() + QStringLiteral(": ") + keyName());
+  setAccessibleDescription(content.key ? opens : unmapped + opens);
+}
+
+QSize MappingRow::sizeHint() const {
+  const double keyWidth = QFontMetricsF(keyFont()).horizontalAdvance(keyName());
+  return {rightCellLeft + static_cast<int>(std::ceil(keyWidth)) + padding + chevronSize + padding, rowHeight};
+}
+
+void MappingRow::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  fillSharp(painter, rect(), Qt::white);
+  if (content.isActive) fillSharp(painter, rect(), AppTheme::faded(AppTheme::accent(), activeOpacity));
+  if (isDown()) fillSharp(painter, rect(), AppTheme::faded(AppTheme::secondaryAccent(), heldOpacity));
+  paintButtonCell(painter);
+  fillSharp(painter, QRectF(leftCellWidth, 0, ruleWidth, rowHeight), AppTheme::borderColor());
+  paintKeyCell(painter);
+  if (hasFocus()) paintOutline(painter, rect(), focusWidth, AppTheme::secondaryAccent());
+}
+
+void MappingRow::paintButtonCell(QPainter& painter) const {
+  const QRectF marker(padding, (rowHeight - markerSize) / 2.0, markerSize, markerSize);
+  fillSharp(painter, marker, content.isActive ? AppTheme::accent() : AppTheme::secondaryText());
+  const double textLeft = marker.right() + markerGap;
+  paintTextLine(painter, {textLeft, 0, leftCellWidth - textLeft, rowHeight}, buttonName(), buttonFont(),
+                AppTheme::text());
+}
+
+void MappingRow::paintKeyCell(QPainter& painter) const {
+  const QColor color =
+      content.key ? AppTheme::secondaryAccent() : AppTheme::faded(AppTheme::secondaryText(), unmappedOpacity);
+  const double right = width() - padding;
+  paintTextLine(painter, QRectF(rightCellLeft, 0, right - rightCellLeft, rowHeight), keyName(), keyFont(),
+                color);
+  paintIcon(painter, Icon::chevron, QRectF(right - chevronSize, 0, chevronSize, rowHeight),
+            AppTheme::faded(AppTheme::borderColor(), chevronOpacity));
+}
+
+/// The Return key opens the picker as well. A held key does so once: it would choose a key there at once.
+void MappingRow::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isReturn) {
+    QAbstractButton::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    click();
+  }
+}
+
+}  // namespace vantorel

@@ -1,0 +1,40 @@
+#include "TextLine.h"
+
+#include <QFontMetricsF>
+#include <cmath>
+
+namespace vantorel {
+
+QString fromCore(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void paintTextLine(QPainter& painter, const QRectF& area, const QString& text, const QFont& font,
+                   const QColor& color, Qt::Alignment alignment) {
+  const QFontMetricsF metrics(font);
+  const double room = area.width() - metrics.horizontalAdvance(text);
+  double left = area.left();
+  if (alignment & Qt::AlignHCenter) left += room / 2;
+  if (alignment & Qt::AlignRight) left += room;
+  painter.setFont(font);
+  painter.setPen(color);
+  painter.drawText(QPointF(left, std::round(area.center().y() + metrics.capHeight() / 2)), text);
+}
+
+TextLine::TextLine(int lineHeight, const QFont& font, const QColor& color, QWidget* parent)
+    : QLabel(parent), textColor(color) {
+  setFont(font);
+  setFixedHeight(lineHeight);
+  setTextFormat(Qt::PlainText);
+}
+
+QSize TextLine::sizeHint() const {
+  return {static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))), minimumHeight()};
+}
+
+void TextLine::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  paintTextLine(painter, rect(), text(), font(), textColor);
+}
+
+}  // namespace vantorel
