@@ -37,10 +37,20 @@ class RemoteObject : public QObject, protected QDBusContext {
   void Quit() {
     setDelayedReply(true);
     connection().send(message().createReply());
+    waitForBus();
     QMetaObject::invokeMethod(this, handlers.quit, Qt::QueuedConnection);
   }
 
  private:
+  /// Returns once everything sent so far has reached the bus, and so its receiver, even if the program ends.
+  void waitForBus() const {
+    constexpr int patience = 1000;  // milliseconds
+    const QString busName = QStringLiteral("org.freedesktop.DBus");
+    connection().call(QDBusMessage::createMethodCall(busName, QStringLiteral("/org/freedesktop/DBus"),
+                                                     busName, QStringLiteral("GetId")),
+                      QDBus::Block, patience);
+  }
+
   const RemoteControl::Handlers handlers;
 };
 

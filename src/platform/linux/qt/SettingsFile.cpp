@@ -3,12 +3,14 @@
 #include <QByteArray>
 #include <QFile>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
 #include <iostream>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
+
+#include "ReplaceFile.h"
 
 namespace vantorel {
 namespace {
@@ -94,6 +96,7 @@ void SettingsFile::load() {
   const auto parsed = parse(bytes);
   if (!parsed) return moveAside("damaged");
   values = *parsed;
+  removeUnfinished(path);
 }
 
 void SettingsFile::moveAside(const std::string& reason) {
@@ -124,15 +127,14 @@ void SettingsFile::set(const QString& kind, const QString& otherKind, const std:
 
 void SettingsFile::save() {
   if (!isWritable) return;
-  std::error_code error;
-  fs::create_directories(path.parent_path(), error);
-  const QByteArray bytes = QJsonDocument(values).toJson();
-  QSaveFile file(QString::fromStdString(path.string()));
-  const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-  if (isSaved || hasReportedFailure) return;
-  hasReportedFailure = true;
-  report("the settings cannot be saved in " + path.string() + " (" + file.errorString().toStdString() +
-         "); they last until the program ends");
+  try {
+    replaceFile(path, QJsonDocument(values).toJson());
+  } catch (const std::exception& error) {
+    if (hasReportedFailure) return;
+    hasReportedFailure = true;
+    report("the settings cannot be saved in " + path.string() + " (" + error.what() +
+           "); they last until the program ends");
+  }
 }
 
 }  // namespace vantorel
