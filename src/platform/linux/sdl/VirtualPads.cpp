@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdint>
 #include <iomanip>
-#include <limits>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include "VirtualPad.h"
@@ -53,11 +54,11 @@ class Words {
   template <class Integer>
   Integer nextNumber(int base) {
     const std::string word = next();
-    std::size_t length = 0;
-    const long number = std::stol(word, &length, base);
-    if (length != word.size()) throw std::invalid_argument("no number");
-    if (!std::in_range<Integer>(number)) throw std::invalid_argument("a number out of range");
-    return static_cast<Integer>(number);
+    Integer number{};
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number, base);
+    if (error == std::errc::result_out_of_range) throw std::invalid_argument("a number out of range");
+    if (error != std::errc() || end != word.data() + word.size()) throw std::invalid_argument("no number");
+    return number;
   }
 
   void end() {
@@ -73,7 +74,7 @@ class Words {
 VirtualPads::VirtualPads() = default;
 VirtualPads::~VirtualPads() = default;
 
-void VirtualPads::execute(const std::string& line) try {
+void VirtualPads::execute(const std::string& line) {
   Words words(line);
   if (!words.areLeft()) return;
   const std::string verb = words.next();
@@ -102,8 +103,6 @@ void VirtualPads::execute(const std::string& line) try {
   } else {
     throw std::invalid_argument("no such command");
   }
-} catch (const std::out_of_range&) {
-  throw std::invalid_argument("a number out of range");
 }
 
 VirtualPad& VirtualPads::pad(const std::string& name) {
