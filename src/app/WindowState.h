@@ -39,6 +39,8 @@ class WindowState {
   Published<std::optional<GamepadButton>> selectedGamepadButton{std::nullopt};
   /// The mapping switch.
   Published<bool> isEnabled{false};
+  /// Whether the desktop has a status bar, which menu-bar mode needs.
+  const Published<bool>& statusBarIsPresent() const { return services.statusBar.isPresent(); }
 
   /// The window shows: the hot key flips its mapping switch from now on.
   void appear();
