@@ -1,0 +1,71 @@
+#include "ConnectionPanel.h"
+
+#include "Typography.h"
+
+namespace vantorel {
+
+namespace {
+
+constexpr int iconSize = 32;
+/// The longest name that a controller may tell fits into these at the least width of the window.
+constexpr int linesOfName = 8;
+
+constexpr const char* tagText = "SYS_CONNECTION";
+constexpr BilingualText tagHint{"Shows whether a game controller is connected.", "显示是否已连接游戏手柄。"};
+constexpr BilingualText online{"[ ONLINE ]", "[ 在线 ]"};
+constexpr BilingualText disconnected{"[ DISCONNECTED ]", "[ DISCONNECTED ]"};
+constexpr BilingualText noDevice{"NO DEVICE FOUND", "未发现设备"};
+
+QString inputLine(const QString& value) { return QStringLiteral("INPUT: ") + value; }
+
+QString nameOf(GamepadButton button, AppLanguage language) {
+  const std::string_view name = displayName(button, language);
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+/// Every line that can come, so that it never takes more room than before.
+QStringList allInputLines() {
+  QStringList lines;
+  for (const AppLanguage language : allAppLanguages()) {
+    for (const GamepadButton button : allGamepadButtons()) lines += inputLine(nameOf(button, language));
+  }
+  return lines;
+}
+
+}  // namespace
+
+ConnectionPanel::ConnectionPanel(WindowState& windowState, QWidget* parent)
+    : Panel(windowState, retroCard(AppTheme::borderColor()), parent),
+      tag(addTag()),
+      icon(new IconView(Icon::unpluggedCable, iconSize, AppTheme::accent(), this)),
+      status(new StatusBadge(this)) {
+  contentLayout()->addWidget(icon, 0, Qt::AlignHCenter);
+  contentLayout()->addWidget(status);
+  device = addLine();
+  contentLayout()->addStretch();
+  input = addLine(QFont::Bold);
+  input->reserveFor(allInputLines());
+  device->reserveLines(linesOfName);
+  const GameControllerManager& manager = state.controllerManager;
+  follow([this] { refresh(); }, manager.isControllerConnected, manager.connectedControllerName,
+         manager.lastButtonPressed);
+}
+
+void ConnectionPanel::refresh() {
+  const GameControllerManager& manager = state.controllerManager;
+  const bool isConnected = manager.isControllerConnected;
+  tag->setText(QString::fromUtf8(tagText));
+  tag->setToolTip(local(tagHint));
+  icon->setIcon(isConnected ? Icon::controller : Icon::unpluggedCable);
+  icon->setColor(isConnected ? AppTheme::success() : AppTheme::accent());
+  status->showState(local(isConnected ? online : disconnected), isConnected);
+  device->setText(isConnected ? QString::fromStdString(manager.connectedControllerName) : local(noDevice));
+  input->setText(inputLine(latestInput()));
+}
+
+QString ConnectionPanel::latestInput() const {
+  const auto button = state.controllerManager.lastButtonPressed.get();
+  return button ? nameOf(*button, state.localization.currentLanguage()) : QStringLiteral("---");
+}
+
+}  // namespace vantorel

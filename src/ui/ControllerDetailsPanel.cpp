@@ -1,0 +1,107 @@
+#include "ControllerDetailsPanel.h"
+
+namespace vantorel {
+
+namespace {
+
+/// A product category of the usual length fits into these at the least width of the window.
+constexpr int linesOfType = 3;
+
+constexpr const char* tagText = "DEVICE_SPECS";
+constexpr BilingualText tagHint{"Shows what the connected controller is.", "显示所连接手柄的信息。"};
+constexpr BilingualText typeName{"TYPE", "类型"};
+constexpr BilingualText extendedName{"EXTENDED", "扩展手柄"};
+constexpr BilingualText familyName{"FAMILY", "系列"};
+constexpr BilingualText driverName{"360_DRIVER", "360驱动"};
+constexpr BilingualText lastKeyName{"LAST_KEY", "最近按键"};
+constexpr BilingualText yes{"YES", "是"};
+constexpr BilingualText no{"NO", "否"};
+constexpr const char* probeText = "START_PROBE";
+constexpr BilingualText probeName{"START_PROBE", "开始检测"};
+constexpr BilingualText probeHint{"Reports in the log the first button that is pressed within ten seconds.",
+                                  "在日志中报告十秒内按下的第一个按钮。"};
+
+QString textOf(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString line(AppLanguage language, const BilingualText& name, const QString& value) {
+  return name.in(language) + QStringLiteral(": ") + value;
+}
+
+QString answer(AppLanguage language, bool isTrue) { return (isTrue ? yes : no).in(language); }
+
+QString familyLine(AppLanguage language, ControllerType controllerType) {
+  return line(language, familyName, textOf(displayText(controllerType)));
+}
+
+QString lastKeyLine(AppLanguage language, std::optional<KeyboardKey> key) {
+  return line(language, lastKeyName, key ? textOf(displayName(*key, language)) : QStringLiteral("---"));
+}
+
+/// Every line that can come, so that none ever takes more room than before.
+QStringList allFamilyLines() {
+  QStringList lines;
+  for (const AppLanguage language : allAppLanguages()) {
+    for (const auto type : {ControllerType::unknown, ControllerType::xbox, ControllerType::ps4,
+                            ControllerType::ps5, ControllerType::switchPro}) {
+      lines += familyLine(language, type);
+    }
+  }
+  return lines;
+}
+
+QStringList allLastKeyLines() {
+  QStringList lines;
+  for (const AppLanguage language : allAppLanguages()) {
+    for (const KeyboardKey key : allKeyboardKeys()) lines += lastKeyLine(language, key);
+  }
+  return lines;
+}
+
+QStringList allAnswerLines(const BilingualText& name) {
+  QStringList lines;
+  for (const AppLanguage language : allAppLanguages()) {
+    for (const bool isTrue : {true, false}) lines += line(language, name, answer(language, isTrue));
+  }
+  return lines;
+}
+
+}  // namespace
+
+ControllerDetailsPanel::ControllerDetailsPanel(WindowState& windowState, QWidget* parent)
+    : Panel(windowState, retroCard(AppTheme::borderColor()), parent),
+      tag(addTag()),
+      type(addLine()),
+      extended(addLine()),
+      family(addLine()),
+      driver(addLine()),
+      lastKey(addLine()) {
+  contentLayout()->addStretch();
+  probe = addButton(AppTheme::secondaryAccent(), [this] { state.startProbe(); });
+  tag->setText(QString::fromUtf8(tagText));
+  probe->setText(QString::fromUtf8(probeText));
+  type->reserveLines(linesOfType);
+  extended->reserveFor(allAnswerLines(extendedName));
+  family->reserveFor(allFamilyLines());
+  driver->reserveFor(allAnswerLines(driverName));
+  lastKey->reserveFor(allLastKeyLines());
+  const GameControllerManager& manager = state.controllerManager;
+  follow([this] { refresh(); }, manager.gamepadType, manager.isExtendedGamepad,
+         manager.detectedControllerType, manager.is360ControllerInstalled, manager.lastKeyboardKeyPressed);
+}
+
+void ControllerDetailsPanel::refresh() {
+  const GameControllerManager& manager = state.controllerManager;
+  const AppLanguage language = state.localization.currentLanguage();
+  tag->setToolTip(local(tagHint));
+  type->setText(line(language, typeName, QString::fromStdString(manager.gamepadType)));
+  extended->setText(line(language, extendedName, answer(language, manager.isExtendedGamepad)));
+  family->setText(familyLine(language, manager.detectedControllerType));
+  driver->setText(line(language, driverName, answer(language, manager.is360ControllerInstalled)));
+  lastKey->setText(lastKeyLine(language, manager.lastKeyboardKeyPressed));
+  probe->setAccessibleName(local(probeName));
+  probe->setToolTip(local(probeHint));
+}
+
+}  // namespace vantorel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Panel.h"
+
+namespace vantorel {
+
+/// What is known about the controller, and the probe for its buttons.
+class ControllerDetailsPanel final : public Panel {
+ public:
+  explicit ControllerDetailsPanel(WindowState& windowState, QWidget* parent = nullptr);
+
+ private:
+  void refresh();
+
+  SectionTag* tag;
+  WrappingLabel* type;
+  WrappingLabel* extended;
+  WrappingLabel* family;
+  WrappingLabel* driver;
+  WrappingLabel* lastKey;
+  RetroButton* probe;
+};
+
+}  // namespace vantorel

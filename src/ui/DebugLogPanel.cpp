@@ -1,0 +1,95 @@
+#include "DebugLogPanel.h"
+
+#include <QFontMetricsF>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
+#include <cmath>
+
+#include "BilingualText.h"
+
+namespace vantorel {
+
+namespace {
+
+constexpr int lineCapacity = 20;
+constexpr int lineSpacing = 8;
+
+constexpr const char* tagText = "DEBUG_LOG";
+constexpr BilingualText name{"Debug log", "调试日志"};
+constexpr BilingualText hint{"Shows what the program did last, the newest line first.",
+                             "显示程序最近的操作，最新的一行在最前。"};
+
+/// How many lines stand in `now` before those that were there `before`, as far as they are still there.
+qsizetype newLines(const QStringList& now, const QStringList& before) {
+  qsizetype fresh = 0;
+  while (fresh < now.size() && !std::equal(now.begin() + fresh, now.end(), before.begin(),
+                                           before.begin() + std::min(before.size(), now.size() - fresh))) {
+    ++fresh;
+  }
+  return fresh;
+}
+
+}  // namespace
+
+DebugLogPanel::DebugLogPanel(WindowState& windowState, QWidget* parent)
+    : CardFrame(retroCard(AppTheme::borderColor()), parent),
+      state(windowState),
+      tag(new SectionTag(QString::fromUtf8(tagText), this)),
+      log(new RetroTextView(this)) {
+  contentLayout()->setSpacing(lineSpacing);
+  contentLayout()->addWidget(tag);
+  contentLayout()->addWidget(log);
+  reserveRoom();
+  updates.follow([this] { refresh(); }, state.controllerManager.debugLogs,
+                 state.localization.currentLanguage());
+}
+
+/// All lines of the log, one row each, so that the card never grows.
+void DebugLogPanel::reserveRoom() {
+  const double rows = lineCapacity * QFontMetricsF(log->font()).lineSpacing();
+  const double margins = 2 * (log->document()->documentMargin() + log->frameWidth());
+  log->setFixedHeight(static_cast<int>(std::ceil(rows + margins)));
+}
+
+void DebugLogPanel::refresh() {
+  const AppLanguage language = state.localization.currentLanguage();
+  tag->setToolTip(hint.in(language));
+  log->setAccessibleName(name.in(language));
+  QStringList lines;
+  for (const std::string& line : state.controllerManager.debugLogs.get())
+    lines += QString::fromStdString(line);
+  showLines(lines);
+}
+
+void DebugLogPanel::showLines(const QStringList& lines) {
+  if (lines == shown) return;
+  const qsizetype fresh = newLines(lines, shown);
+  if (fresh == lines.size()) {
+    log->setPlainText(lines.join(u'\n'));
+  } else {
+    const bool wasAtTop = log->verticalScrollBar()->value() == 0;
+    dropLast(shown.size() + fresh - lines.size());
+    if (fresh > 0) prepend(lines.first(fresh));
+    if (wasAtTop) log->verticalScrollBar()->setValue(0);
+  }
+  shown = lines;
+}
+
+void DebugLogPanel::prepend(const QStringList& lines) {
+  QTextCursor top(log->document());
+  top.insertText(lines.join(u'\n') + u'\n');
+}
+
+void DebugLogPanel::dropLast(qsizetype lines) {
+  QTextCursor end(log->document());
+  end.movePosition(QTextCursor::End);
+  for (qsizetype line = 0; line < lines; ++line) {
+    end.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+    end.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+  }
+  end.removeSelectedText();
+}
+
+}  // namespace vantorel

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Panel.h"
+#include "RetroCheckBox.h"
+
+namespace vantorel {
+
+/// The mapping switch, and the button that looks for the permission again.
+class MappingSwitchPanel final : public Panel {
+ public:
+  explicit MappingSwitchPanel(WindowState& windowState, QWidget* parent = nullptr);
+
+ private:
+  void refresh();
+
+  RetroCheckBox* activeMapping;
+  RetroButton* refreshSystem;
+};
+
+}  // namespace vantorel
