@@ -19,6 +19,9 @@ class Transcript {
   /// Records `text` at the present time, which is written in seconds to the nearest millisecond.
   void write(std::string_view text);
 
+  /// Drops everything from now on.
+  void close() { sink = nullptr; }
+
  private:
   const VirtualTime& time;
   Sink sink;
