@@ -25,18 +25,18 @@ class Parser {
     app.set_version_flag("--version", "vantorel " VANTOREL_VERSION, "Print the version");
     play = app.add_option("--play", options.file, "Play the scenario FILE (\"-\": standard input)")
                ->type_name("FILE");
-    demo = app.add_flag("--demo", "Play the built-in demonstration");
+    demo = addFlag("--demo", "Play the built-in demonstration");
     screenshot = app.add_option("--screenshot", options.screenshot,
                                 "With --play or --demo: draw the window as it stands at the end into PNG")
                      ->type_name("PNG");
-    headless = app.add_flag("--headless", "Run without a window until a signal ends it");
+    headless = addFlag("--headless", "Run without a window until a signal ends it");
     mapping = addSwitch("--mapping", options.isMappingOn, "With --headless: key mapping (default on)");
     thumbsticks = addSwitch("--thumbsticks", options.areThumbsticksOn,
                             "With --headless: thumbstick mouse (default off)");
-    list = app.add_flag("--list-controllers", "List the connected controllers");
-    toggle = app.add_flag("--toggle", "Switch the mapping of the running program on or off");
-    show = app.add_flag("--show", "Show the window of the running program");
-    quit = app.add_flag("--quit", "End the running program");
+    list = addFlag("--list-controllers", "List the connected controllers");
+    toggle = addFlag("--toggle", "Switch the mapping of the running program on or off");
+    show = addFlag("--show", "Show the window of the running program");
+    quit = addFlag("--quit", "End the running program");
   }
 
   Command parse(std::vector<std::string> arguments) {
@@ -55,6 +55,10 @@ class Parser {
   }
 
  private:
+  CLI::Option* addFlag(const std::string& name, const std::string& description) {
+    return app.add_flag(name, description);
+  }
+
   CLI::Option* addSwitch(const std::string& name, bool& value, const std::string& description) {
     return app.add_option(name, value, description)
         ->transform(CLI::CheckedTransformer(switchValues).description(""))

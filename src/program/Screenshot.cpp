@@ -1,0 +1,42 @@
+#include "Screenshot.h"
+
+#include <QApplication>
+#include <QImageWriter>
+#include <QPixmap>
+#include <algorithm>
+
+#include "MainWindow.h"
+
+namespace vantorel {
+namespace {
+
+/// Makes the window so high that nothing of its page has to be scrolled to.
+void growToContent(MainWindow& window) {
+  const RetroScrollArea& area = *window.contentView()->scrollArea();
+  const int hidden = area.widget()->height() - area.viewport()->height();
+  window.resize(window.width(), window.height() + std::max(hidden, 0));
+}
+
+}  // namespace
+
+std::optional<std::string> drawScreenshot(WindowState& state, const std::string& file) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int argumentCount = 1;
+  char name[] = "vantorel";
+  char* arguments[] = {name, nullptr};
+  const QApplication application(argumentCount, arguments);
+
+  MainWindow window(state, {[] {}, [] {}, [] {}});
+  window.resize(ContentView::idealSize);
+  window.show();
+  if (!state.selectedGamepadButton.get()) window.contentView()->setFocus();  // no control shows the focus
+  QApplication::processEvents();
+  growToContent(window);
+  QApplication::processEvents();
+
+  QImageWriter writer(QString::fromStdString(file), "png");
+  if (writer.write(window.grab().toImage())) return std::nullopt;
+  return "cannot write " + file + ": " + writer.errorString().toStdString();
+}
+
+}  // namespace vantorel

@@ -1,0 +1,54 @@
+#include <QApplication>
+#include <exception>
+#include <memory>
+
+#include "Commands.h"
+#include "RemoteControl.h"
+#include "StandardError.h"
+#include "WindowProgram.h"
+
+namespace vantorel {
+namespace {
+
+bool isSet(const char* variable) { return !qgetenv(variable).isEmpty(); }
+
+/// Whether Qt has something to draw on; it would abort the process otherwise.
+bool isDisplayThere() {
+  if (isSet("QT_QPA_PLATFORM") || isSet("WAYLAND_DISPLAY")) return true;
+  return isSet("DISPLAY");
+}
+
+/// Shows the window of the program that runs already.
+int showRunningProgram() {
+  const RemoteAnswer answer = send(RemoteCommand::show);
+  if (answer.outcome == RemoteOutcome::done) return 0;
+  complain("it is running already: " + answer.message);
+  return 1;
+}
+
+}  // namespace
+
+int openWindow(int& argumentCount, char** arguments) {
+  if (!isDisplayThere()) {
+    complain("there is no display; --headless runs without a window, --demo shows what it does");
+    return 1;
+  }
+  QApplication application(argumentCount, arguments);
+  QApplication::setApplicationName("Vantorel");
+  QApplication::setDesktopFileName("vantorel");
+  QApplication::setQuitOnLastWindowClosed(false);
+  try {
+    std::unique_ptr<WindowProgram> program;  // calls from outside arrive when it runs
+    const RemoteControl remote(
+        {[&] { program->toggle(); }, [&] { program->showWindow(); }, [] { QCoreApplication::quit(); }});
+    if (remote.state() == RemoteControl::State::anotherIsRunning) return showRunningProgram();
+    program = std::make_unique<WindowProgram>(isSet("DISPLAY") ? LinuxMachine::Injection::x11
+                                                               : LinuxMachine::Injection::none);
+    return program->run();
+  } catch (const std::exception& problem) {
+    complain(problem.what());
+    return 1;
+  }
+}
+
+}  // namespace vantorel

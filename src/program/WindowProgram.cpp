@@ -1,0 +1,75 @@
+#include "WindowProgram.h"
+
+#include <QApplication>
+#include <algorithm>
+
+#include "Remedies.h"
+#include "StandardError.h"
+
+namespace vantorel {
+
+WindowProgram::WindowProgram(LinuxMachine::Injection injection)
+    : hasXServer(injection == LinuxMachine::Injection::x11),
+      machine(injection,
+              [] {
+                complain("the connection to the X server is lost");
+                QCoreApplication::exit(1);
+              }),
+      statusBar(machine.mainQueue()),
+      application(statusBar),
+      workspace([this] { showRemedy(); }),
+      platform(machine.platform(statusBar, application, workspace)),
+      app(platform) {}
+
+int WindowProgram::run() {
+  openWindow();
+  menuBarModeObservation = MenuBarManager::shared().isMenuBarMode.observe([this] { menuBarModeChanged(); });
+  const SignalWatcher signals([](int /*signal*/) { QCoreApplication::quit(); });
+  return QCoreApplication::exec();
+}
+
+void WindowProgram::openWindow() {
+  WindowState& state = app.openWindow();
+  auto widget = std::make_unique<MainWindow>(
+      state, MainWindow::Actions{[this] { openWindow(); }, [this, &state] { closed(state); },
+                                 [] { QCoreApplication::quit(); }});
+  windows.push_back({state, std::move(widget)});
+  windows.back().widget->show();
+  state.appear();
+}
+
+/// A window that is not the last one ends, but not before the event that closed it is done with.
+void WindowProgram::closed(const WindowState& state) {
+  const auto window =
+      std::find_if(windows.begin(), windows.end(), [&](const Window& open) { return &open.state == &state; });
+  if (window == windows.end() || windows.size() == 1) return;
+  MainWindow* const widget = window->widget.release();
+  windows.erase(window);
+  widget->setAttribute(Qt::WA_DeleteOnClose);
+  QObject::connect(widget, &QObject::destroyed, [this, &state] { app.closeWindow(state); });
+  widget->deleteLater();
+}
+
+void WindowProgram::toggle() { windows.back().state.toggle(); }
+
+void WindowProgram::showWindow() {
+  MainWindow& window = *windows.back().widget;
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+void WindowProgram::showRemedy() {
+  windows.back().widget->showRemedy(hasXServer ? remedyForMissingExtension() : remedyForMissingXServer());
+}
+
+/// "Show Window" leaves the mode; that would help nobody while every window is closed.
+void WindowProgram::menuBarModeChanged() {
+  if (MenuBarManager::shared().isMenuBarMode) return;
+  const bool isAnyVisible = std::any_of(windows.begin(), windows.end(),
+                                        [](const Window& window) { return window.widget->isVisible(); });
+  if (!isAnyVisible) showWindow();
+}
+
+}  // namespace vantorel

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <list>
+#include <memory>
+
+#include "DesktopWorkspace.h"
+#include "LinuxMachine.h"
+#include "MainWindow.h"
+#include "QtApplication.h"
+#include "QtStatusBar.h"
+#include "SignalWatcher.h"
+#include "VantorelApp.h"
+
+namespace vantorel {
+
+/// The program with its windows on the desktop. One at a time, while a QApplication exists. Main thread.
+///
+/// Closing a window does not end the program. The last one is only hidden, so that mapping goes on and a
+/// second start can show it; further ones end with their state.
+class WindowProgram {
+ public:
+  /// Throws std::runtime_error with a text for the user when the machine lacks what `injection` wants.
+  explicit WindowProgram(LinuxMachine::Injection injection);
+
+  /// Opens the first window and runs until the user quits. The status of the process: 0, or 1 when the X
+  /// server went away.
+  int run();
+
+  /// Flips the mapping switch of the window opened last.
+  void toggle();
+
+  /// Shows the window opened last and brings it forward.
+  void showWindow();
+
+ private:
+  /// A window and its state.
+  struct Window {
+    WindowState& state;
+    std::unique_ptr<MainWindow> widget;
+  };
+
+  void openWindow();
+  void closed(const WindowState& state);
+  void showRemedy();
+  void menuBarModeChanged();
+
+  const bool hasXServer;
+  LinuxMachine machine;
+  QtStatusBar statusBar;
+  QtApplication application;
+  DesktopWorkspace workspace;
+  Platform platform;
+  VantorelApp app;
+  std::list<Window> windows;
+  Subscription menuBarModeObservation;
+};
+
+}  // namespace vantorel
