@@ -26,8 +26,8 @@ TEST(MessageBus, StartsOnlyTheServicesNamed) {
   const XServer server;
   const MessageBus bare;
   const MessageBus withAccessibility({"org.a11y.Bus"}, {server.environment()});
-  const std::vector<std::string> call{"call", "--session", "-d", "org.a11y.Bus", "-o", "/org/a11y/bus",
-                                      "-m",   "org.a11y.Bus.GetAddress"};
+  const std::vector<std::string> call{"call", "--session",     "-d", "org.a11y.Bus",
+                                      "-o",   "/org/a11y/bus", "-m", "org.a11y.Bus.GetAddress"};
   Process refused("gdbus", call, {bare.environment()});
   EXPECT_EQ(refused.waitForExit(), 1);
   Process answered("gdbus", call, {withAccessibility.environment()});

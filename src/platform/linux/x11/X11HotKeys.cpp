@@ -1,12 +1,13 @@
 #include "X11HotKeys.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 #include <vector>
 
-#include "DetectableAutoRepeat.h"
 #include "XcbKeyCode.h"
 #include "XcbReply.h"
+#include "XkbClient.h"
 
 namespace vantorel {
 namespace {
@@ -70,14 +71,18 @@ class X11HotKeys::Reference : public HotKeyReference {
 
 X11HotKeys::X11HotKeys(const XcbConnection& xcbConnection, MainQueue& queue,
                        std::function<void()> onConnectionLost)
-    : connection(xcbConnection), mainQueue(queue), connectionLost(std::move(onConnectionLost)) {
-  useDetectableAutoRepeat(connection);
+    : connection(xcbConnection),
+      xkbEventType(becomeXkbClient(xcbConnection)),
+      mainQueue(queue),
+      connectionLost(std::move(onConnectionLost)) {
   processEvents();
 }
 
 void X11HotKeys::installHandler(std::function<void()> handler) { *pressHandler = std::move(handler); }
 
 HotKeyRegistration X11HotKeys::registerHotKey(const HotKey& hotKey) {
+  constexpr std::uint32_t largestKeyCode = std::numeric_limits<std::uint16_t>::max();
+  if (hotKey.keyCode > largestKeyCode) return {hotKeyInvalid, nullptr};
   const std::optional<xcb_keycode_t> key = xcbKeyCode(static_cast<std::uint16_t>(hotKey.keyCode));
   if (!key) return {hotKeyInvalid, nullptr};
   processEvents();
@@ -138,7 +143,9 @@ void X11HotKeys::ungrab(const Combination& combination) const {
 }
 
 void X11HotKeys::handle(const xcb_generic_event_t& event) {
-  switch (event.response_type & ~sentBySendEvent) {
+  const unsigned type = event.response_type & ~unsigned{sentBySendEvent};
+  if (type == xkbEventType) areMasksStale = true;
+  switch (type) {
     case XCB_KEY_PRESS:
       handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event));
       break;

@@ -54,6 +54,7 @@ class X11HotKeys : public HotKeys {
   void followKeymap();
 
   const XcbConnection& connection;
+  const std::optional<std::uint8_t> xkbEventType;  ///< of the events that tell of a change of the keymap
   MainQueue& mainQueue;
   std::function<void()> connectionLost;  ///< null once posted
   std::shared_ptr<std::function<void()>> pressHandler = std::make_shared<std::function<void()>>();
