@@ -31,8 +31,8 @@ class XClient {
   std::size_t count(Event::Kind kind, std::uint8_t detail);
 
   struct Pixel {
-    int x = 0;
-    int y = 0;
+    int x;
+    int y;
     friend bool operator==(const Pixel&, const Pixel&) = default;
   };
   Pixel pointer() const;
@@ -45,7 +45,7 @@ class XClient {
   bool isAnyKeyDown() const;
 
  private:
-  void fakeInput(std::uint8_t type, std::uint8_t detail, Pixel pixel = {});
+  void fakeInput(std::uint8_t type, std::uint8_t detail, Pixel pixel = Pixel{0, 0});
   void collect();
 
   XcbConnection connection;
