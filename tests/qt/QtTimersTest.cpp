@@ -132,7 +132,6 @@ TEST(QueueTimerTest, SurvivesBeingEndedRightAfterItsStart) {
   Count count = 0;
   for (int i = 0; i < 100; ++i) timers.startQueueTimer("test", 1ms, [&] { ++count; });
   const int counted = count;
-  EXPECT_LE(counted, (SteadyClock::now().time_since_epoch()) / 1ms);
   std::this_thread::sleep_for(10ms);
   EXPECT_EQ(count, counted);
 }

@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <memory>
+#include <thread>
 
 #include "MessageBus.h"
 #include "Roles.h"
@@ -122,6 +123,8 @@ TEST_F(RemoteControlTest, TheEndOfTheBusDoesNotEndTheProgram) {
   auto ending = std::make_unique<MessageBus>();
   const auto program = start({ending->environment()});
   ending.reset();
+  std::this_thread::sleep_for(std::chrono::milliseconds(100));  // to take notice
+  EXPECT_TRUE(program->isRunning());
   program->signal(SIGTERM);
   EXPECT_EQ(program->waitForExit(), 0);
 }

@@ -197,6 +197,19 @@ TEST_F(SettingsFileTest, WhatCannotBeReadIsKeptAsideAsWell) {
   EXPECT_EQ(reopened().string("key"), "value");
 }
 
+TEST_F(SettingsFileTest, WhatCannotBeKeptAsideIsNotWrittenOver) {
+  const fs::path longName = directory.path() / std::string(250, 'x');  // with an ending it is too long
+  write(longName, "damaged");
+  const std::string errors = errorsOf([&] {
+    SettingsFile settings(longName);
+    settings.setString("key", "value");
+    EXPECT_EQ(settings.string("key"), "value");
+  });
+  EXPECT_EQ(read(longName), "damaged");
+  EXPECT_THAT(errors, HasSubstr("will save none"));
+  EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1);
+}
+
 TEST_F(SettingsFileTest, ADirectoryThatCannotBeWrittenIsReportedOnceAndTheProgramGoesOn) {
   write(directory.path() / "vantorel", "a file in place of the directory");
   const std::string errors = errorsOf([&] {

@@ -9,7 +9,8 @@ FileDescriptorWatcher::FileDescriptorWatcher(int descriptor, std::function<void(
     : notifier(std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read)) {
   const auto callback = std::make_shared<const std::function<void()>>(std::move(readable));
   QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [callback] {
-    const auto held = callback;  // the callback may destroy the watcher, and this closure with it
+    // The callback may destroy the watcher, and this closure with it.
+    const auto held = callback;  // NOLINT(performance-unnecessary-copy-initialization)
     (*held)();
   });
 }

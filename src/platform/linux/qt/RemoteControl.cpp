@@ -23,10 +23,10 @@ class RemoteObject : public QObject, protected QDBusContext {
 
   bool hasWindow() const { return handlers.show != nullptr; }
 
- public Q_SLOTS:
-  void Toggle() { handlers.toggle(); }
+  // The methods by their names on the bus.
+  Q_SLOT void Toggle() { handlers.toggle(); }
 
-  void Show() {
+  Q_SLOT void Show() {
     if (hasWindow()) {
       handlers.show();
     } else {
@@ -34,7 +34,7 @@ class RemoteObject : public QObject, protected QDBusContext {
     }
   }
 
-  void Quit() {
+  Q_SLOT void Quit() {
     setDelayedReply(true);
     connection().send(message().createReply());
     waitForBus();

@@ -9,7 +9,7 @@ namespace {
 
 /// Where the session's bus listens; empty if there is none.
 QString sessionBusAddress() {
-  const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+  QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
   if (!address.isEmpty()) return address;
   const QString directory = qEnvironmentVariable("XDG_RUNTIME_DIR");
   const QString socket = directory + QStringLiteral("/bus");
