@@ -20,7 +20,10 @@ constexpr int textRight = 10;
 
 }  // namespace
 
-RetroMenu::RetroMenu(QWidget* parent) : QMenu(parent) { setFont(monospaced(12)); }
+RetroMenu::RetroMenu(QWidget* parent) : QMenu(parent) {
+  setFont(monospaced(12));
+  setContentsMargins(outlineWidth, outlineWidth, outlineWidth, outlineWidth);
+}
 
 void RetroMenu::paintEntry(QPainter& painter, QAction* entry) const {
   const QRectF area = actionGeometry(entry);

@@ -24,12 +24,17 @@ std::unique_ptr<QTextLayout> unbrokenLine(const QString& text, const QFont& font
 /// Names in capitals and paths have no blanks: they may be parted after these.
 bool partsAfter(QChar character) { return character == u'_' || character == u'/' || character == u':'; }
 
+double inkWidth(const QString& text, const QFont& font) {
+  return unbrokenLine(text, font)->lineAt(0).naturalTextWidth();
+}
+
 /// One paragraph, measured, and its places to break.
 class Paragraph {
  public:
-  Paragraph(const QString& content, const QFont& font)
+  Paragraph(const QString& content, const QFont& lineFont)
       : text(content),
-        line(unbrokenLine(content, font)),
+        font(lineFont),
+        line(unbrokenLine(content, lineFont)),
         unicodeBreaks(QTextBoundaryFinder::Line, text),
         characters(QTextBoundaryFinder::Grapheme, text) {}
 
@@ -37,7 +42,14 @@ class Paragraph {
     return text.mid(begin, withoutBlanks(begin, end) - begin);
   }
 
-  double width(qsizetype begin, qsizetype end) const { return xAt(withoutBlanks(begin, end)) - xAt(begin); }
+  /// Whether the part is not wider than `limit`. A last glyph may reach over its own advance, so close to the
+  /// limit the part is measured by itself.
+  bool fits(qsizetype begin, qsizetype end, double limit) const {
+    constexpr double longestOverhang = 4;
+    const double advance = xAt(withoutBlanks(begin, end)) - xAt(begin);
+    return advance <= limit - longestOverhang ||
+           (advance <= limit && inkWidth(part(begin, end), font) <= limit);
+  }
 
   /// The next place after `position` at which the text may be parted without need.
   qsizetype nextBreak(qsizetype position) {
@@ -53,7 +65,7 @@ class Paragraph {
     qsizetype end = begin;
     while (end < text.size()) {
       const qsizetype next = nextBreak(end);
-      if (width(begin, next) > limit) break;
+      if (!fits(begin, next, limit)) break;
       end = next;
     }
     return end > begin ? end : forcedEnd(begin, limit);
@@ -79,13 +91,14 @@ class Paragraph {
   qsizetype forcedEnd(qsizetype begin, double limit) {
     characters.setPosition(begin);
     qsizetype end = characters.toNextBoundary();
-    for (qsizetype next = end; next > 0 && width(begin, next) <= limit; next = characters.toNextBoundary()) {
+    for (qsizetype next = end; next > 0 && fits(begin, next, limit); next = characters.toNextBoundary()) {
       end = next;
     }
     return end > begin ? end : text.size();
   }
 
   QString text;
+  QFont font;
   std::unique_ptr<QTextLayout> line;
   QTextBoundaryFinder unicodeBreaks;
   QTextBoundaryFinder characters;
@@ -143,7 +156,7 @@ void WrappedText::paint(QPainter& painter, const QRectF& area, const QColor& col
 double unbrokenWidth(const QString& text, const QFont& font) {
   double widest = 0;
   for (const QString& line : text.split(u'\n')) {
-    widest = std::max(widest, unbrokenLine(line, font)->lineAt(0).naturalTextWidth());
+    widest = std::max(widest, inkWidth(line, font));
   }
   return widest;
 }
@@ -155,7 +168,7 @@ double widestPart(const QString& text, const QFont& font) {
     qsizetype begin = 0;
     while (begin < paragraph.size()) {
       const qsizetype end = paragraph.nextBreak(begin);
-      widest = std::max(widest, paragraph.width(begin, end));
+      widest = std::max(widest, inkWidth(paragraph.part(begin, end), font));
       begin = end;
     }
   }

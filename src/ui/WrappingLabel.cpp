@@ -51,7 +51,8 @@ double WrappingLabel::textHeight(const QString& text, double width) const {
 int WrappingLabel::heightForWidth(int width) const {
   const QMargins margins = contentsMargins();
   const double room = width - margins.left() - margins.right();
-  double height = std::max(textHeight(text(), room), reservedLines * QFontMetricsF(font()).height());
+  double height = textHeight(text(), room);
+  if (reservedLines > 0) height = std::max(height, textHeight(QString(reservedLines - 1, u'\n'), room));
   for (const QString& alternative : reservedTexts) height = std::max(height, textHeight(alternative, room));
   return roundedUp(height) + margins.top() + margins.bottom();
 }

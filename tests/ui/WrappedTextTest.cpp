@@ -1,0 +1,82 @@
+#include "WrappedText.h"
+
+#include <gtest/gtest.h>
+
+#include "Typography.h"
+
+namespace vantorel {
+namespace {
+
+const QStringList texts = {
+    "ACTIVE_MAPPING",
+    "DOWNLOAD_DRIVER",
+    "SUPPORTED_CONTROLLERS",
+    "[ DISCONNECTED ]",
+    "LEFT_STICK: Move cursor + Click (L3)",
+    "左摇杆: 移动光标 + 按下点击 (L3)",
+    "Xbox（需要驱动）",
+    "AControllerWhoseNameHasNoBlankAtAllAndGoesOnAndOn",
+    "🕹️🎮 🕹️🎮",
+    "https://example.org/a/rather/long/address",
+    "several   blanks    between",
+    "",
+};
+
+TEST(WrappedText, NeverExceedsItsWidth) {
+  for (const QString& text : texts) {
+    for (double width = 24; width < 300; width += 7) {
+      const WrappedText lines(text, monospaced(10, QFont::Bold), width);
+      EXPECT_LE(lines.size().width(), width + 0.02) << text.toStdString();
+      EXPECT_GE(lines.lineCount(), 1);
+    }
+  }
+}
+
+int lineCount(const QString& text, double width) {
+  return WrappedText(text, monospaced(10), width).lineCount();
+}
+
+double widthOf(const char* text) { return unbrokenWidth(QString(text), monospaced(10)); }
+
+TEST(WrappedText, BreaksNamesAfterTheirUnderscores) {
+  EXPECT_EQ(lineCount("DOWNLOAD_DRIVER", widthOf("DOWNLOAD_DRIVER")), 1);
+  EXPECT_EQ(lineCount("DOWNLOAD_DRIVER", widthOf("DOWNLOAD_")), 2);
+  EXPECT_EQ(lineCount("MENU_BAR_MODE", widthOf("MENU_BAR_")), 2);
+  EXPECT_EQ(widestPart("MENU_BAR_MODE", monospaced(10)), widthOf("MENU_"));
+}
+
+TEST(WrappedText, BreaksBetweenWordsAndBeforeBracketsButNotInNumbers) {
+  EXPECT_EQ(widestPart("move the cursor", monospaced(10)), widthOf("cursor"));
+  EXPECT_EQ(widestPart("PS4(Bluetooth)", monospaced(10)), widthOf("(Bluetooth)"));
+  EXPECT_EQ(widestPart("12:30", monospaced(10)), widthOf("12:30"));
+}
+
+TEST(WrappedText, BreaksBetweenChineseCharacters) {
+  EXPECT_EQ(widestPart("摇杆控制", monospaced(10)), widthOf("摇"));
+  EXPECT_EQ(lineCount("摇杆控制", widthOf("摇杆")), 2);
+}
+
+TEST(WrappedText, BreaksInsideAWordOnlyWhereNothingElseHelps) {
+  EXPECT_EQ(lineCount("ab abcdefgh", widthOf("abcdefgh")), 2);
+  EXPECT_EQ(lineCount("abcdefgh", widthOf("abcd")), 2);
+}
+
+TEST(WrappedText, DropsTheBlanksAtTheEndOfALine) {
+  const WrappedText lines("left right", monospaced(10), widthOf("right"));
+  EXPECT_EQ(lines.lineCount(), 2);
+  EXPECT_DOUBLE_EQ(lines.size().width(), widthOf("right"));
+}
+
+TEST(WrappedText, KeepsItsOwnLineBreaks) {
+  EXPECT_EQ(lineCount("one\ntwo\n\nfour", 500), 4);
+  EXPECT_DOUBLE_EQ(unbrokenWidth("one\nthree", monospaced(10)), widthOf("three"));
+}
+
+TEST(WrappedText, NeverTearsACharacterApart) {
+  const QString joystick = "🕹️";
+  EXPECT_EQ(lineCount(joystick, 1), 1) << "at least one character a line, however narrow";
+  EXPECT_EQ(lineCount(joystick + joystick, 1), 2);
+}
+
+}  // namespace
+}  // namespace vantorel
