@@ -81,7 +81,7 @@ class VirtualPadPipeTest : public ControllersTest {
     ASSERT_GE(writing, 0);
   }
 
-  void write(const std::string& text) {
+  void write(const std::string& text) const {
     ASSERT_EQ(::write(writing, text.data(), text.size()), static_cast<ssize_t>(text.size()));
   }
 

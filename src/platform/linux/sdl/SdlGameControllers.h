@@ -20,7 +20,8 @@ namespace vantorel {
 ///
 /// SDL runs on a thread of its own, which sleeps until a pad, a plug or a command wakes it. The states of the
 /// inputs follow the pads at once, also while the main thread is busy; notifications and change handlers come
-/// through the main queue. A pad that is unplugged reads as neutral, without a call of its change handlers.
+/// through the main queue. A pad that is unplugged reads as neutral, without a call of its change handlers;
+/// only a release that the kernel itself reports on the way out is told like any other.
 ///
 /// One object at a time in a process. When the environment variable VANTOREL_VIRTUAL_PADS names a pipe, pads
 /// without hardware are worked through it; see VirtualPads.

@@ -1,6 +1,7 @@
 #include "SdlSession.h"
 
 #include <SDL.h>
+#include <unistd.h>
 
 #include <stdexcept>
 #include <string>
@@ -11,6 +12,12 @@ namespace {
 /// Beats the environment: the waking by device nodes and the meaning of the buttons depend on these.
 void require(const char* hint, const char* value) { SDL_SetHintWithPriority(hint, value, SDL_HINT_OVERRIDE); }
 
+/// Where no udev runs (in a container), SDL waits for its word in vain unless it is told to watch the
+/// directory of the nodes instead.
+void watchDirectoryWithoutUdev() {
+  if (access("/run/udev/control", F_OK) != 0) SDL_SetHint("SDL_JOYSTICK_DISABLE_UDEV", "1");
+}
+
 }  // namespace
 
 SdlSession::SdlSession() {
@@ -19,6 +26,7 @@ SdlSession::SdlSession() {
   require(SDL_HINT_JOYSTICK_HIDAPI, "0");  // it would read the pads past their nodes, and in a thread
   require(SDL_HINT_AUTO_UPDATE_JOYSTICKS, "1");
   require(SDL_HINT_GAMECONTROLLER_USE_BUTTON_LABELS, "0");  // A is the bottom button on every pad
+  watchDirectoryWithoutUdev();
   if (SDL_Init(SDL_INIT_GAMECONTROLLER) != 0) throw std::runtime_error(SDL_GetError());
 }
 
