@@ -1,10 +1,11 @@
 #include "NotifierHosts.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+
+#include "SessionBus.h"
 
 namespace vantorel {
 namespace {
@@ -17,8 +18,7 @@ constexpr int patience = 5000;  // ms for an answer
 
 }  // namespace
 
-NotifierHosts::NotifierHosts() {
-  QDBusConnection bus = QDBusConnection::sessionBus();
+NotifierHosts::NotifierHosts() : bus(connectToSessionBus()) {
   if (!bus.isConnected()) {
     there = false;
     return;
@@ -34,12 +34,14 @@ NotifierHosts::NotifierHosts() {
   ask();
 }
 
+NotifierHosts::~NotifierHosts() { disconnectFrom(bus); }
+
 void NotifierHosts::ask() {
   QDBusMessage call = QDBusMessage::createMethodCall(
       watcherService, watcherPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
   call << watcherInterface << QStringLiteral("IsStatusNotifierHostRegistered");
   call.setAutoStartService(false);
-  auto* reply = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, patience), this);
+  auto* reply = new QDBusPendingCallWatcher(bus.asyncCall(call, patience), this);
   connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply, asked = ++question] {
     reply->deleteLater();
     if (asked != question) return;

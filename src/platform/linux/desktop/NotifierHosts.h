@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <cstdint>
@@ -16,6 +17,9 @@ class NotifierHosts : public QObject {
 
  public:
   NotifierHosts();
+  NotifierHosts(const NotifierHosts&) = delete;
+  NotifierHosts& operator=(const NotifierHosts&) = delete;
+  ~NotifierHosts() override;
 
   /// Whether a host is there; empty while that is being asked.
   const Published<std::optional<bool>>& isThere() const { return there; }
@@ -26,6 +30,7 @@ class NotifierHosts : public QObject {
   void take(std::optional<bool> answer);
 
   Published<std::optional<bool>> there{std::nullopt};
+  QDBusConnection bus;
   QDBusServiceWatcher names;
   std::uint64_t question = 0;  ///< counts the questions: only the latest one's answer is taken
 };
