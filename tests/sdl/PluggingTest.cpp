@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -155,6 +156,15 @@ TEST_F(Plugging, TheEndOfTheServiceLeavesPadsNeutralAndPostedBlocksWithoutEffect
   EXPECT_EQ(calls, 0);
   EXPECT_TRUE(told.empty());
   EXPECT_FALSE(gamepad->input(GamepadButton::buttonB)->isPressed());
+}
+
+TEST_F(Plugging, SignalsStayAsTheyWere) {
+  service().controllers();
+  for (const int number : {SIGINT, SIGTERM}) {
+    struct sigaction action {};
+    ASSERT_EQ(sigaction(number, nullptr, &action), 0);
+    EXPECT_EQ(action.sa_handler, SIG_DFL) << number;
+  }
 }
 
 TEST_F(Plugging, TheServiceStartsWithoutDelayAndStopsAtOnce) {
