@@ -39,10 +39,10 @@ ConnectionPanel::ConnectionPanel(WindowState& windowState, QWidget* parent)
       tag(addTag()),
       icon(new IconView(Icon::unpluggedCable, iconSize, AppTheme::accent(), this)),
       status(new StatusBadge(this)) {
-  contentLayout()->addWidget(icon, 0, Qt::AlignHCenter);
-  contentLayout()->addWidget(status);
+  add(icon, Qt::AlignHCenter);
+  add(status);
   device = addLine();
-  contentLayout()->addStretch();
+  addSpace();
   input = addLine(QFont::Bold);
   input->reserveFor(allInputLines());
   device->reserveLines(linesOfName);

@@ -41,30 +41,39 @@ ContentView::ContentView(WindowState& windowState, QWidget* parent)
   setPalette(colors);
   setMinimumSize(leastSize);
   scroll->setContent(makePage());
+  scroll->setFocusPolicy(Qt::ClickFocus);  // its keys scroll while no control has the keyboard
+  setFocusProxy(scroll);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(scroll);
   new KeyPickerSheet(state, this);
 }
 
-/// The plates of all rows end at the same line; their shadows differ in width, so the margins do.
 QWidget* ContentView::makePage() {
   auto* page = new QWidget;
   auto* column = new QVBoxLayout(page);
-  column->setContentsMargins(pagePadding, pagePadding, pagePadding - panelShadow, pagePadding);
+  column->setContentsMargins(pagePadding, pagePadding, pagePadding - headerShadow, pagePadding);
   column->setSpacing(0);
-  auto* header = new HeaderPanel(state, page);
-  column->addWidget(header);
+  column->addWidget(new HeaderPanel(state, page));
   column->addSpacing(spacing);
-  column->addLayout(makePanelRow(page));
-  column->addSpacing(spacing);
-  auto* list = new MappingList(state, page);
-  list->setContentsMargins(0, 0, panelShadow, 0);
-  column->addWidget(list);
-  column->addSpacing(spacing + panelShadow);
-  column->addWidget(new DebugLogPanel(state, page));
+  column->addLayout(makeRows(page));
   column->addStretch();
   return page;
+}
+
+/// What stands below the header. Its plates end where the header's does; only the shadows differ in width.
+QLayout* ContentView::makeRows(QWidget* page) {
+  auto* rows = new QVBoxLayout;
+  rows->setContentsMargins(0, 0, headerShadow - panelShadow, 0);
+  rows->setSpacing(spacing);
+  rows->addLayout(makePanelRow(page));
+  auto* list = new MappingList(state, page);
+  auto* listPlace = new QVBoxLayout;
+  listPlace->setContentsMargins(0, 0, panelShadow, panelShadow);
+  listPlace->addWidget(list);
+  rows->addLayout(listPlace);
+  rows->addWidget(new DebugLogPanel(state, page));
+  return rows;
 }
 
 QLayout* ContentView::makePanelRow(QWidget* page) {

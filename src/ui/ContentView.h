@@ -33,6 +33,7 @@ class ContentView : public QWidget {
 
  private:
   QWidget* makePage();
+  QLayout* makeRows(QWidget* page);
   QLayout* makePanelRow(QWidget* page);
 
   WindowState& state;

@@ -4,7 +4,7 @@ namespace vantorel {
 
 namespace {
 
-/// A product category of the usual length fits into these at the least width of the window.
+/// A product category of more than the usual length fits into these at the least width of the window.
 constexpr int linesOfType = 3;
 
 constexpr const char* tagText = "DEVICE_SPECS";
@@ -72,20 +72,20 @@ QStringList allAnswerLines(const BilingualText& name) {
 ControllerDetailsPanel::ControllerDetailsPanel(WindowState& windowState, QWidget* parent)
     : Panel(windowState, retroCard(AppTheme::borderColor()), parent),
       tag(addTag()),
-      type(addLine()),
       extended(addLine()),
-      family(addLine()),
       driver(addLine()),
-      lastKey(addLine()) {
-  contentLayout()->addStretch();
+      lastKey(addLine()),
+      family(addLine()),
+      type(addLine()) {
+  addSpace();
   probe = addButton(AppTheme::secondaryAccent(), [this] { state.startProbe(); });
   tag->setText(QString::fromUtf8(tagText));
   probe->setText(QString::fromUtf8(probeText));
-  type->reserveLines(linesOfType);
   extended->reserveFor(allAnswerLines(extendedName));
-  family->reserveFor(allFamilyLines());
   driver->reserveFor(allAnswerLines(driverName));
   lastKey->reserveFor(allLastKeyLines());
+  family->reserveFor(allFamilyLines());
+  type->reserveLines(linesOfType);
   const GameControllerManager& manager = state.controllerManager;
   follow([this] { refresh(); }, manager.gamepadType, manager.isExtendedGamepad,
          manager.detectedControllerType, manager.is360ControllerInstalled, manager.lastKeyboardKeyPressed);
@@ -95,11 +95,11 @@ void ControllerDetailsPanel::refresh() {
   const GameControllerManager& manager = state.controllerManager;
   const AppLanguage language = state.localization.currentLanguage();
   tag->setToolTip(local(tagHint));
-  type->setText(line(language, typeName, QString::fromStdString(manager.gamepadType)));
   extended->setText(line(language, extendedName, answer(language, manager.isExtendedGamepad)));
-  family->setText(familyLine(language, manager.detectedControllerType));
   driver->setText(line(language, driverName, answer(language, manager.is360ControllerInstalled)));
   lastKey->setText(lastKeyLine(language, manager.lastKeyboardKeyPressed));
+  family->setText(familyLine(language, manager.detectedControllerType));
+  type->setText(line(language, typeName, QString::fromStdString(manager.gamepadType)));
   probe->setAccessibleName(local(probeName));
   probe->setToolTip(local(probeHint));
 }

@@ -13,11 +13,11 @@ class ControllerDetailsPanel final : public Panel {
   void refresh();
 
   SectionTag* tag;
-  WrappingLabel* type;
   WrappingLabel* extended;
-  WrappingLabel* family;
   WrappingLabel* driver;
   WrappingLabel* lastKey;
+  WrappingLabel* family;
+  WrappingLabel* type;
   RetroButton* probe;
 };
 

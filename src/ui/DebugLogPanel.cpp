@@ -1,6 +1,5 @@
 #include "DebugLogPanel.h"
 
-#include <QFontMetricsF>
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -8,6 +7,7 @@
 #include <cmath>
 
 #include "BilingualText.h"
+#include "WrappedText.h"
 
 namespace vantorel {
 
@@ -15,6 +15,8 @@ namespace {
 
 constexpr int lineCapacity = 20;
 constexpr int lineSpacing = 8;
+/// With characters of every font that is used.
+constexpr const char* tallestLine = "A 中 🎮";
 
 constexpr const char* tagText = "DEBUG_LOG";
 constexpr BilingualText name{"Debug log", "调试日志"};
@@ -46,11 +48,13 @@ DebugLogPanel::DebugLogPanel(WindowState& windowState, QWidget* parent)
                  state.localization.currentLanguage());
 }
 
-/// All lines of the log, one row each, so that the card never grows.
+/// For a full log of lines that do not wrap. The card never grows; longer logs scroll.
 void DebugLogPanel::reserveRoom() {
-  const double rows = lineCapacity * QFontMetricsF(log->font()).lineSpacing();
+  const WrappedText line(QString::fromUtf8(tallestLine), log->font(), log->width());
+  const double rows = lineCapacity * line.size().height();
   const double margins = 2 * (log->document()->documentMargin() + log->frameWidth());
-  log->setFixedHeight(static_cast<int>(std::ceil(rows + margins)));
+  constexpr int spare = 1;  // without it the view would scroll by a line
+  log->setFixedHeight(static_cast<int>(std::ceil(rows + margins)) + spare);
 }
 
 void DebugLogPanel::refresh() {

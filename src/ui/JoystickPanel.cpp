@@ -41,15 +41,11 @@ CardStyle informationBox() {
 
 JoystickPanel::JoystickPanel(WindowState& windowState, QWidget* parent)
     : Panel(windowState, retroCard(AppTheme::borderColor()), parent),
-      joystickControl(new RetroCheckBox({}, this)),
+      joystickControl(addSwitch([this](bool isOn) { flip(isOn); })),
       section(makeSection()) {
-  contentLayout()->addWidget(joystickControl);
-  contentLayout()->addWidget(section);
-  contentLayout()->addStretch();
-  JoystickMouseController& joystick = state.controllerManager.joystickMouseController;
-  connect(joystickControl, &QCheckBox::toggled, this, [this, &joystick](bool isOn) {
-    if (isOn != joystick.isEnabled) state.setJoystickEnabled(isOn);
-  });
+  add(section);
+  addSpace();
+  const JoystickMouseController& joystick = state.controllerManager.joystickMouseController;
   follow([this] { refresh(); }, joystick.isEnabled, joystick.mouseSensitivity, joystick.sensitivity,
          joystick.deadzone);
 }
@@ -90,6 +86,10 @@ WrappingLabel* JoystickPanel::addInformation(QVBoxLayout& rows, const QColor& co
   row->addWidget(text, 1);
   rows.addLayout(row);
   return text;
+}
+
+void JoystickPanel::flip(bool isOn) {
+  if (isOn != state.controllerManager.joystickMouseController.isEnabled) state.setJoystickEnabled(isOn);
 }
 
 void JoystickPanel::refresh() {

@@ -2,7 +2,6 @@
 
 #include "JoystickSetting.h"
 #include "Panel.h"
-#include "RetroCheckBox.h"
 
 namespace vantorel {
 
@@ -15,6 +14,7 @@ class JoystickPanel final : public Panel {
   QWidget* makeSection();
   QWidget* makeInformationBox();
   WrappingLabel* addInformation(QVBoxLayout& rows, const QColor& color);
+  void flip(bool isOn);
   void refresh();
 
   RetroCheckBox* joystickControl;

@@ -26,6 +26,7 @@ MainWindow::MainWindow(WindowState& windowState, Actions windowActions)
   pages->addWidget(content);
   setCentralWidget(pages);
   fillMenuBar();
+  content->setFocus();
   updates.follow([this] { refresh(); }, state.localization.currentLanguage());
 }
 

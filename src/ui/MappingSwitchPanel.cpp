@@ -17,15 +17,16 @@ constexpr BilingualText buttonHint{"Looks again whether Vantorel has the permiss
 
 MappingSwitchPanel::MappingSwitchPanel(WindowState& windowState, QWidget* parent)
     : Panel(windowState, retroCard(AppTheme::borderColor()), parent),
-      activeMapping(new RetroCheckBox(QString::fromUtf8(switchText), this)) {
-  contentLayout()->addWidget(activeMapping);
-  contentLayout()->addStretch();
+      activeMapping(addSwitch([this](bool isOn) { flip(isOn); })) {
+  activeMapping->setText(QString::fromUtf8(switchText));
+  addSpace();
   refreshSystem = addButton(AppTheme::secondaryAccent(), [this] { state.refreshSystem(); });
   refreshSystem->setText(QString::fromUtf8(buttonText));
-  connect(activeMapping, &QCheckBox::toggled, this, [this](bool isOn) {
-    if (isOn != state.isEnabled) state.setEnabled(isOn);
-  });
   follow([this] { refresh(); }, state.isEnabled);
+}
+
+void MappingSwitchPanel::flip(bool isOn) {
+  if (isOn != state.isEnabled) state.setEnabled(isOn);
 }
 
 void MappingSwitchPanel::refresh() {

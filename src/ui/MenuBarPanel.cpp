@@ -20,15 +20,15 @@ constexpr BilingualText noStatusBarText{"No status bar on this desktop: the wind
 
 MenuBarPanel::MenuBarPanel(WindowState& windowState, QWidget* parent)
     : Panel(windowState, retroCard(AppTheme::borderColor()), parent),
-      menuBarMode(new RetroCheckBox({}, this)),
+      menuBarMode(addSwitch([this](bool isOn) { flip(isOn); })),
       hint(new WrappingLabel(monospaced(hintSize), AppTheme::secondaryText(), this)) {
-  contentLayout()->addWidget(menuBarMode);
-  contentLayout()->addWidget(hint);
-  contentLayout()->addStretch();
-  connect(menuBarMode, &QCheckBox::toggled, this, [this](bool isOn) {
-    if (isOn != state.menuBarManager.isMenuBarMode) state.setMenuBarMode(isOn);
-  });
+  add(hint);
+  addSpace();
   follow([this] { refresh(); }, state.menuBarManager.isMenuBarMode, state.statusBarIsPresent());
+}
+
+void MenuBarPanel::flip(bool isOn) {
+  if (isOn != state.menuBarManager.isMenuBarMode) state.setMenuBarMode(isOn);
 }
 
 void MenuBarPanel::refresh() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Panel.h"
-#include "RetroCheckBox.h"
 
 namespace vantorel {
 
@@ -11,6 +10,7 @@ class MenuBarPanel final : public Panel {
   explicit MenuBarPanel(WindowState& windowState, QWidget* parent = nullptr);
 
  private:
+  void flip(bool isOn);
   void refresh();
 
   RetroCheckBox* menuBarMode;

@@ -6,6 +6,7 @@
 #include "BilingualText.h"
 #include "CardFrame.h"
 #include "RetroButton.h"
+#include "RetroCheckBox.h"
 #include "SectionTag.h"
 #include "ViewUpdates.h"
 #include "WindowState.h"
@@ -20,10 +21,16 @@ class Panel : public CardFrame {
   /// `windowState` outlives the panel.
   Panel(WindowState& windowState, const CardStyle& style, QWidget* parent);
 
-  /// Puts the panel's title at the end of its content.
+  /// Puts `widget` at the end of the panel's content.
+  void add(QWidget* widget, Qt::Alignment alignment = {});
+  /// Puts all the height there that the row has and this panel does not need.
+  void addSpace();
+  /// Puts the panel's title there.
   SectionTag* addTag();
   /// Puts a line of text in the caption size there.
   WrappingLabel* addLine(QFont::Weight weight = QFont::Normal);
+  /// Puts a switch there, which stands first; it runs `flip` with its new state.
+  RetroCheckBox* addSwitch(std::function<void(bool isOn)> flip);
   /// Puts a button there, which runs `action`.
   RetroButton* addButton(const QColor& color, std::function<void()> action);
 
@@ -39,6 +46,7 @@ class Panel : public CardFrame {
   WindowState& state;
 
  private:
+  QVBoxLayout* destination;  ///< where content goes
   ViewUpdates updates;
 };
 

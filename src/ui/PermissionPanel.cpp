@@ -18,8 +18,8 @@ PermissionPanel::PermissionPanel(WindowState& windowState, QWidget* parent)
       tag(addTag()),
       granted(new StatusBadge(this)),
       fix(addButton(AppTheme::accent(), [this] { state.fixPermission(); })) {
-  contentLayout()->addWidget(granted);
-  contentLayout()->addStretch();
+  add(granted);
+  addSpace();
   follow([this] { refresh(); }, state.controllerManager.hasAccessibilityPermission);
 }
 

@@ -12,13 +12,14 @@ namespace {
 
 constexpr int textSize = 12;
 constexpr int lineWidth = 2;
+constexpr int barHeight = 26;
 
 }  // namespace
 
 RetroMenuBar::RetroMenuBar(QWidget* parent) : QMenuBar(parent) {
   setFont(monospaced(textSize, QFont::Bold));
   setNativeMenuBar(false);
-  setContentsMargins(0, 0, 0, lineWidth);
+  setFixedHeight(barHeight);  // in every language
 }
 
 void RetroMenuBar::paintEvent(QPaintEvent* /*event*/) {
@@ -26,7 +27,9 @@ void RetroMenuBar::paintEvent(QPaintEvent* /*event*/) {
   fillSharp(painter, rect(), AppTheme::cardBackground());
   fillSharp(painter, QRectF(0, height() - lineWidth, width(), lineWidth), AppTheme::borderColor());
   for (QAction* const entry : actions()) {
-    const QRect area = actionGeometry(entry);
+    QRect area = actionGeometry(entry);
+    area.setTop(0);
+    area.setBottom(barHeight - lineWidth - 1);
     const bool isOpen = entry == activeAction();
     if (isOpen) fillSharp(painter, area, AppTheme::secondaryAccent());
     painter.setPen(isOpen ? AppTheme::cardBackground() : AppTheme::text());

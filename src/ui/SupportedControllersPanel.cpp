@@ -35,7 +35,7 @@ SupportedControllersPanel::SupportedControllersPanel(WindowState& windowState, Q
       tag(addTag()),
       families{addLine(), addLine(), addLine(), addLine()},
       note(addLine()) {
-  contentLayout()->addStretch();
+  addSpace();
   download = addButton(AppTheme::secondaryAccent(), [this] { state.downloadDriver(); });
   tag->setText(QString::fromUtf8(tagText));
   note->setColor(AppTheme::secondaryText());
