@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
+#include <fstream>
+#include <string>
 
 #include "MessageBus.h"
 #include "WindowManager.h"
@@ -10,16 +11,24 @@
 namespace vantorel::test {
 namespace {
 
-TEST(XServer, LeavesNothingBehind) {
+/// The process that holds the display with `number`, as text; empty when nobody does.
+std::string holderOf(const std::string& number) {
+  std::string pid;
+  std::ifstream("/tmp/.X" + number + "-lock") >> pid;
+  return pid;
+}
+
+TEST(XServer, FreesItsDisplay) {
   std::string number;
+  std::string pid;
   {
-    const XServer server;
+    XServer server;
     const WindowManager manager(server);
     number = server.display().substr(1);
-    EXPECT_TRUE(std::filesystem::exists("/tmp/.X11-unix/X" + number));
+    pid = std::to_string(server.process().pid());
+    EXPECT_EQ(holderOf(number), pid);
   }
-  EXPECT_FALSE(std::filesystem::exists("/tmp/.X11-unix/X" + number));
-  EXPECT_FALSE(std::filesystem::exists("/tmp/.X" + number + "-lock"));
+  EXPECT_NE(holderOf(number), pid);
 }
 
 TEST(MessageBus, StartsOnlyTheServicesNamed) {

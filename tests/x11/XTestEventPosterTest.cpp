@@ -16,7 +16,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Optional;
 using testing::Pair;
 
 constexpr xcb_keycode_t xEscape = 9;

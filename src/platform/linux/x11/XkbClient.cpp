@@ -3,9 +3,12 @@
 #include "XcbReply.h"
 
 // The header is meant for C and names a member with a word of C++.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wpedantic"
 #define explicit explicitComponents
 #include <xcb/xkb.h>
 #undef explicit
+#pragma GCC diagnostic pop
 
 namespace vantorel {
 namespace {
