@@ -55,10 +55,10 @@ QAccessibleInterface* decimalSlider(const QString& /*className*/, QObject* objec
 
 }  // namespace
 
-RetroSlider::RetroSlider(double lowestValue, double highestValue, double gridStep, QWidget* parent)
-    : QSlider(Qt::Horizontal, parent), from(lowestValue), step(gridStep) {
+RetroSlider::RetroSlider(double lowestNumber, double highestNumber, double gridStep, QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), from(lowestNumber), step(gridStep) {
   QAccessible::installFactory(decimalSlider);  // Qt keeps it once
-  setRange(0, qRound((highestValue - lowestValue) / gridStep));
+  setRange(0, qRound((highestNumber - lowestNumber) / gridStep));
   setSingleStep(1);
   setPageStep(std::max(1, maximum() / 5));
   setFocusPolicy(Qt::StrongFocus);

@@ -4,12 +4,12 @@
 
 namespace vantorel {
 
-/// A slider in the style of the window over decimal numbers on a grid: `from`, `from + step`, ... `to`.
-/// Arrow keys move it by one step; `valueChanged` tells of every change. Its integral value is the number of
-/// steps above `from`; assistive technology is told the decimal number.
+/// A slider in the style of the window over decimal numbers on a grid: the lowest, and from it on in steps to
+/// the highest. Arrow keys move it by one step; `valueChanged` tells of every change. Its integral value
+/// counts the steps above the lowest; assistive technology is told the decimal number.
 class RetroSlider : public QSlider {
  public:
-  RetroSlider(double from, double to, double step, QWidget* parent = nullptr);
+  RetroSlider(double lowestNumber, double highestNumber, double gridStep, QWidget* parent = nullptr);
 
   double decimalValue() const { return decimalAt(value()); }
   /// Moves to the grid point nearest to `number`, within the range.
