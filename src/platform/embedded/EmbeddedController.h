@@ -20,7 +20,7 @@ struct ControllerDescription {
   std::string productCategory;
   ControllerProfile profile = ControllerProfile::extended;
   /// Those of `leftThumbstick`, `rightThumbstick` and `options` that an extended controller lacks.
-  std::set<GamepadButton> missingButtons;
+  std::set<GamepadButton> missingButtons{};
 };
 
 /// A controller that is plugged and operated by decree. Its inputs do nothing while it is unplugged, if they
