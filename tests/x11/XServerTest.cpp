@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
+#include <filesystem>
+#include <optional>
 #include <string>
+#include <system_error>
 
 #include "MessageBus.h"
 #include "WindowManager.h"
@@ -11,24 +13,24 @@
 namespace vantorel::test {
 namespace {
 
-/// The process that holds the display with `number`, as text; empty when nobody does.
-std::string holderOf(const std::string& number) {
-  std::string pid;
-  std::ifstream("/tmp/.X" + number + "-lock") >> pid;
-  return pid;
+/// When the socket of `display` was made; none when there is none.
+std::optional<std::filesystem::file_time_type> socketTime(const std::string& display) {
+  std::error_code error;
+  const auto time = std::filesystem::last_write_time("/tmp/.X11-unix/X" + display.substr(1), error);
+  return error ? std::nullopt : std::optional(time);
 }
 
-TEST(XServer, FreesItsDisplay) {
-  std::string number;
-  std::string pid;
+TEST(XServer, LeavesNothingBehind) {
+  std::string display;
+  std::optional<std::filesystem::file_time_type> time;
   {
-    XServer server;
+    const XServer server;
     const WindowManager manager(server);
-    number = server.display().substr(1);
-    pid = std::to_string(server.process().pid());
-    EXPECT_EQ(holderOf(number), pid);
+    display = server.display();
+    time = socketTime(display);
+    ASSERT_TRUE(time);
   }
-  EXPECT_NE(holderOf(number), pid);
+  EXPECT_NE(socketTime(display), time) << "by now another server may have one of the same name";
 }
 
 TEST(MessageBus, StartsOnlyTheServicesNamed) {
