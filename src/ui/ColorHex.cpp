@@ -30,14 +30,9 @@ CodePoint last(QStringView text) {
   return {text[size - 1].unicode(), 1};
 }
 
-/// Letters, digits and the marks that are written on them.
-bool isAlphanumeric(char32_t character) {
-  return QChar::isLetterOrNumber(character) || QChar::isMark(character);
-}
-
 QStringView trimmed(QStringView text) {
-  while (!text.isEmpty() && !isAlphanumeric(first(text).value)) text = text.mid(first(text).length);
-  while (!text.isEmpty() && !isAlphanumeric(last(text).value)) text.chop(last(text).length);
+  while (!text.isEmpty() && !QChar::isLetterOrNumber(first(text).value)) text = text.mid(first(text).length);
+  while (!text.isEmpty() && !QChar::isLetterOrNumber(last(text).value)) text.chop(last(text).length);
   return text;
 }
 

@@ -15,6 +15,7 @@ TEST(ColorHex, ReadsSixDigitsWithWhateverStandsAroundThem) {
   EXPECT_EQ(colorFromHex(u"  E0E0E0\n"), grey);
   EXPECT_EQ(colorFromHex(u"（E0E0E0）"), grey);
   EXPECT_EQ(colorFromHex(u"🎨E0E0E0🎨"), grey);
+  EXPECT_EQ(colorFromHex(u"\u0301E0E0E0"), grey);
   EXPECT_NEAR(grey.redF(), 224 / 255.0, 1e-6);
   EXPECT_EQ(colorFromHex(u"FF004D"), QColor(255, 0, 77, 255));
 }
