@@ -29,12 +29,20 @@ TrayTest::TrayTest() {
   if (commands < 0) throw std::runtime_error("no pipe for the commands");
 }
 
-TrayTest::~TrayTest() {
-  if (program && HasFailure()) {
+TrayTest::~TrayTest() { close(commands); }
+
+void TrayTest::TearDown() {
+  if (!program) return;
+  if (program->isRunning()) {
+    const std::string line = "terminate\n";
+    EXPECT_EQ(write(commands, line.data(), line.size()), static_cast<ssize_t>(line.size()));
+  }
+  // The event loop turns: the program may say farewell to the host in this process.
+  EXPECT_TRUE(eventually([&] { return !program->isRunning(); }));
+  EXPECT_EQ(program->waitForExit(), 0);
+  if (HasFailure()) {
     std::cerr << "The program wrote:\n" << program->output() << program->errorOutput() << std::endl;
   }
-  program.reset();
-  close(commands);
 }
 
 void TrayTest::startProgram(std::vector<std::string> environment) {

@@ -27,6 +27,9 @@ class TrayTest : public testing::Test {
   TrayTest();
   ~TrayTest() override;
 
+  /// Ends the program, in whatever state the test left it.
+  void TearDown() override;
+
   /// Starts the program under test and waits until it takes commands. `environment` is added to its own.
   void startProgram(std::vector<std::string> environment = {});
 

@@ -22,16 +22,22 @@ bool EmbeddingTrays::nativeEventFilter(const QByteArray& /*eventType*/, void* me
   switch (event->response_type & 0x7F) {
     case XCB_CLIENT_MESSAGE: {
       const auto* announcement = static_cast<const xcb_client_message_event_t*>(message);
-      if (announcement->type == managerMessage && announcement->data.data32[1] == selection) look();
+      if (announcement->type == managerMessage && announcement->data.data32[1] == selection) lookSoon();
       break;
     }
     case XCB_DESTROY_NOTIFY:
-      if (static_cast<const xcb_destroy_notify_event_t*>(message)->window == managerWindow.get()) look();
+      if (static_cast<const xcb_destroy_notify_event_t*>(message)->window == managerWindow.get()) lookSoon();
       break;
     default:
       break;
   }
   return false;
+}
+
+/// Not within a filter: those who are told may add and remove filters.
+void EmbeddingTrays::lookSoon() {
+  QMetaObject::invokeMethod(
+      &context, [this] { look(); }, Qt::QueuedConnection);
 }
 
 void EmbeddingTrays::look() {

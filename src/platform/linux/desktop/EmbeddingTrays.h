@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <QAbstractNativeEventFilter>
+#include <QObject>
 #include <optional>
 
 #include "Published.h"
@@ -25,12 +26,14 @@ class EmbeddingTrays : public QAbstractNativeEventFilter {
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
  private:
+  void lookSoon();
   void look();
 
   std::optional<X11Session> session;
   xcb_atom_t selection = XCB_ATOM_NONE;
   xcb_atom_t managerMessage = XCB_ATOM_NONE;
   Published<xcb_window_t> managerWindow{XCB_NONE};
+  QObject context;  // calls that are queued for it end with this object
 };
 
 }  // namespace vantorel

@@ -21,12 +21,12 @@ void TemplateIcon::paint(QPainter& painter, const QRectF& bounds, const QColor& 
   const bool onDark = background.lightnessF() < 0.5F;
   const QColor fill(onDark ? Qt::white : Qt::black);
   QColor outline(onDark ? Qt::black : Qt::white);
-  outline.setAlphaF(0.55F);
+  outline.setAlphaF(0.8F);
 
   const qreal margin = std::max<qreal>(1, bounds.width() / 22);
   const QPainterPath path = gamepadPath(bounds.adjusted(margin, margin, -margin, -margin));
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.strokePath(path, QPen(outline, margin, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.strokePath(path, QPen(outline, 1.6 * margin, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.fillPath(path, fill);
 }
 
