@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "AppTheme.h"
+#include "BilingualText.h"
 #include "PixelGrid.h"
 #include "TextLine.h"
 #include "Typography.h"
@@ -16,6 +17,8 @@ namespace {
 constexpr int focusMargin = 8;  // between the button's edge and the focus frame
 constexpr int focusWidth = 2;
 
+constexpr BilingualText closeText{"Close", "关闭"};
+
 }  // namespace
 
 CloseButton::CloseButton(QWidget* parent) : QAbstractButton(parent) {
@@ -25,9 +28,8 @@ CloseButton::CloseButton(QWidget* parent) : QAbstractButton(parent) {
 }
 
 void CloseButton::showName(AppLanguage language) {
-  const QString name = language == AppLanguage::chinese ? QStringLiteral("关闭") : QStringLiteral("Close");
-  setAccessibleName(name);
-  setToolTip(name);
+  setAccessibleName(closeText.in(language));
+  setToolTip(closeText.in(language));
 }
 
 QSize CloseButton::sizeHint() const {

@@ -10,6 +10,7 @@
 
 #include "AccessibleRole.h"
 #include "AppTheme.h"
+#include "BilingualText.h"
 #include "CloseButton.h"
 #include "KeyButton.h"
 #include "KeyGrid.h"
@@ -26,6 +27,8 @@ constexpr int barPadding = 16;
 constexpr int titleHeight = 18;
 constexpr int barHeight = barPadding + titleHeight + barPadding;
 constexpr int padding = 24;  // around the sections, from the edge of the panel
+
+constexpr BilingualText taskText{"SELECT_KEY", "选择按键"};
 
 /// Focusing a key scrolls this much around it into view: the heading above a first row, the padding below
 /// the last one.
@@ -58,9 +61,8 @@ KeyPickerView::KeyPickerView(GamepadButton gamepadButton, std::optional<Keyboard
 }
 
 void KeyPickerView::showLanguage(AppLanguage language) {
-  const QString task =
-      language == AppLanguage::chinese ? QStringLiteral("选择按键") : QStringLiteral("SELECT_KEY");
-  title->setText(task + QStringLiteral("::") + fromCore(displayName(editedButton, language)).toUpper());
+  const QString buttonName = fromCore(displayName(editedButton, language)).toUpper();
+  title->setText(taskText.in(language) + QStringLiteral("::") + buttonName);
   setAccessibleName(title->text());
   closer->showName(language);
   grid->showLanguage(language);
@@ -88,11 +90,18 @@ void KeyPickerView::moveFocus(bool next) {
 /// click would end beside it.
 bool KeyPickerView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) {
-    auto* key = qobject_cast<QWidget*>(watched);
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    if (reason != Qt::MouseFocusReason) area->ensureWidgetVisible(key, 0, viewMargin);
+    if (reason != Qt::MouseFocusReason) reveal(qobject_cast<QWidget*>(watched)->geometry());
   }
   return QWidget::eventFilter(watched, event);
+}
+
+void KeyPickerView::reveal(const QRect& key) {
+  const int viewHeight = area->viewport()->height();
+  const int margin = std::clamp((viewHeight - key.height()) / 2, 0, viewMargin);
+  const int lowest = key.bottom() + 1 + margin - viewHeight;
+  QScrollBar* const bar = area->verticalScrollBar();
+  bar->setValue(std::clamp(bar->value(), lowest, std::max(lowest, key.top() - margin)));
 }
 
 void KeyPickerView::paintEvent(QPaintEvent* /*event*/) {

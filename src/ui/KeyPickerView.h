@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -51,6 +52,7 @@ class KeyPickerView : public QWidget {
 
  private:
   void arrange();
+  void reveal(const QRect& key);
 
   GamepadButton editedButton;
   TextLine* title;

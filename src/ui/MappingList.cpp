@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "AppTheme.h"
+#include "BilingualText.h"
 #include "MappingRow.h"
 #include "PixelGrid.h"
 #include "TextLine.h"
@@ -19,22 +20,52 @@ constexpr int headerGap = 8;
 constexpr int borderWidth = 2;
 constexpr int dividerHeight = 1;
 
-/// The outline around the rows, and the dividers that show between them.
-class RowBox : public QWidget {
+/// The lines between the rows. They lie over the rows, so that all are equally thick where a point is no
+/// whole number of pixels.
+class Dividers : public QWidget {
  public:
-  using QWidget::QWidget;
+  explicit Dividers(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    paintOutline(painter, rect(), borderWidth, AppTheme::borderColor());
-    for (std::size_t above = 0; above + 1 < gamepadButtonCount; ++above) {
-      const int top = borderWidth + static_cast<int>(above) * (MappingRow::rowHeight + dividerHeight);
-      fillSharp(painter, QRectF(0, top + MappingRow::rowHeight, width(), dividerHeight),
-                AppTheme::borderColor());
+    const PixelGrid grid(painter);
+    for (int above = 0; above + 1 < static_cast<int>(gamepadButtonCount); ++above) {
+      const int top = borderWidth + above * (MappingRow::rowHeight + dividerHeight) + MappingRow::rowHeight;
+      QRectF line = grid.snapped(QRectF(borderWidth, top, width() - 2 * borderWidth, dividerHeight));
+      line.setHeight(grid.lineWidth(dividerHeight));
+      fillSharp(painter, line, AppTheme::borderColor());
     }
   }
 };
+
+/// The outline around the rows.
+class RowBox : public QWidget {
+ public:
+  RowBox() : dividers(new Dividers(this)) {}
+
+  void addRow(MappingRow* row) {
+    layout()->addWidget(row);
+    dividers->raise();
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* /*event*/) override { dividers->setGeometry(rect()); }
+
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    fillSharp(painter, rect(), Qt::white);
+    paintOutline(painter, rect(), borderWidth, AppTheme::borderColor());
+  }
+
+ private:
+  Dividers* dividers;
+};
+
+constexpr BilingualText titleText{"MACRO_CONFIGURATION", "宏配置"};
+constexpr BilingualText titleHelp{"Choose the key that each controller button sends.",
+                                  "选择手柄的每个按钮发送哪个按键。"};
+constexpr BilingualText offlineText{"[ OFFLINE ]", "[ 离线 ]"};
 
 }  // namespace
 
@@ -82,17 +113,16 @@ QWidget* MappingList::makeBox() {
       state.openKeyPicker(button);
     });
     rows.at(static_cast<std::size_t>(button)) = row;
-    layout->addWidget(row);
+    box->addRow(row);
   }
   return box;
 }
 
 void MappingList::showTexts() {
-  const bool isChinese = state.localization.currentLanguage() == AppLanguage::chinese;
-  title->setText(isChinese ? QStringLiteral("宏配置") : QStringLiteral("MACRO_CONFIGURATION"));
-  title->setToolTip(isChinese ? QStringLiteral("选择手柄的每个按钮发送哪个按键。")
-                              : QStringLiteral("Choose the key that each controller button sends."));
-  offlineMark->setText(isChinese ? QStringLiteral("[ 离线 ]") : QStringLiteral("[ OFFLINE ]"));
+  const AppLanguage language = state.localization.currentLanguage();
+  title->setText(titleText.in(language));
+  title->setToolTip(titleHelp.in(language));
+  offlineMark->setText(offlineText.in(language));
   setAccessibleName(title->text());
   showRows();
 }

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "AppTheme.h"
+#include "BilingualText.h"
 #include "Icons.h"
 #include "PixelGrid.h"
 #include "TextLine.h"
@@ -25,6 +26,9 @@ constexpr double activeOpacity = 0.1;
 constexpr double heldOpacity = 0.2;
 constexpr double unmappedOpacity = 0.5;
 constexpr int focusWidth = 2;
+
+constexpr BilingualText chooseHelp{"Choose a key.", "选择按键。"};
+constexpr BilingualText unmappedHelp{"Not mapped. Choose a key.", "未映射。选择按键。"};
 
 constexpr int rightCellLeft = leftCellWidth + ruleWidth + padding;
 
@@ -56,11 +60,8 @@ QString MappingRow::keyName() const {
 }
 
 void MappingRow::describe() {
-  const bool isChinese = content.language == AppLanguage::chinese;
-  const QString opens = isChinese ? QStringLiteral("选择按键。") : QStringLiteral("Choose a key.");
-  const QString unmapped = isChinese ? QStringLiteral("未映射。") : QStringLiteral("Not mapped. ");
   setAccessibleName(buttonName() + QStringLiteral(": ") + keyName());
-  setAccessibleDescription(content.key ? opens : unmapped + opens);
+  setAccessibleDescription((content.key ? chooseHelp : unmappedHelp).in(content.language));
 }
 
 QSize MappingRow::sizeHint() const {

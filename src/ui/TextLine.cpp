@@ -18,7 +18,7 @@ void paintTextLine(QPainter& painter, const QRectF& area, const QString& text, c
   if (alignment & Qt::AlignRight) left += room;
   painter.setFont(font);
   painter.setPen(color);
-  painter.drawText(QPointF(left, std::round(area.center().y() + metrics.capHeight() / 2)), text);
+  painter.drawText(QPointF(left, area.center().y() + metrics.capHeight() / 2), text);
 }
 
 TextLine::TextLine(int lineHeight, const QFont& font, const QColor& color, QWidget* parent)
