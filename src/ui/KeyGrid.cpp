@@ -35,7 +35,7 @@ QRect keyRect(const QRect& area, int index, int keysPerRow) {
 
 }  // namespace
 
-KeyGrid::KeyGrid(std::optional<KeyboardKey> currentMapping, std::function<void(KeyboardKey)> onSelect,
+KeyGrid::KeyGrid(std::optional<KeyboardKey> currentMapping, const std::function<void(KeyboardKey)>& onSelect,
                  QWidget* parent)
     : QWidget(parent) {
   for (const KeySection& section : keySections()) {

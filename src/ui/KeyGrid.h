@@ -23,7 +23,7 @@ class KeyGrid : public QWidget {
   static constexpr int headingGap = 8;  ///< between a heading and its keys
 
   /// `onSelect` is called with the key that is chosen; `currentMapping` is the one that is marked.
-  KeyGrid(std::optional<KeyboardKey> currentMapping, std::function<void(KeyboardKey)> onSelect,
+  KeyGrid(std::optional<KeyboardKey> currentMapping, const std::function<void(KeyboardKey)>& onSelect,
           QWidget* parent = nullptr);
 
   void showLanguage(AppLanguage language);

@@ -37,14 +37,14 @@ constexpr int viewMargin = padding + KeyGrid::headingHeight + KeyGrid::headingGa
 }  // namespace
 
 KeyPickerView::KeyPickerView(GamepadButton gamepadButton, std::optional<KeyboardKey> currentMapping,
-                             std::function<void(KeyboardKey)> onSelect, std::function<void()> dismiss,
+                             const std::function<void(KeyboardKey)>& onSelect, std::function<void()> dismiss,
                              QWidget* parent)
     : QWidget(parent),
       editedButton(gamepadButton),
       title(new TextLine(titleHeight, monospaced(14, QFont::Black), Qt::white, this)),
       closer(new CloseButton(this)),
       area(new RetroScrollArea(this)),
-      grid(new KeyGrid(currentMapping, std::move(onSelect))) {
+      grid(new KeyGrid(currentMapping, onSelect)) {
   presentAs(this, QAccessible::Dialog);
   connect(closer, &CloseButton::clicked, this, [dismiss = std::move(dismiss)] { dismiss(); });
   // The border and the scroll bar lie within the padding, so that it is the same at both sides.

@@ -26,7 +26,7 @@ class KeyPickerView : public QWidget {
 
   /// `onSelect` is called with the chosen key, `dismiss` when the user closes the panel instead.
   KeyPickerView(GamepadButton gamepadButton, std::optional<KeyboardKey> currentMapping,
-                std::function<void(KeyboardKey)> onSelect, std::function<void()> dismiss,
+                const std::function<void(KeyboardKey)>& onSelect, std::function<void()> dismiss,
                 QWidget* parent = nullptr);
 
   GamepadButton gamepadButton() const { return editedButton; }

@@ -20,11 +20,11 @@ constexpr int headerGap = 8;
 constexpr int borderWidth = 2;
 constexpr int dividerHeight = 1;
 
-/// The lines between the rows. They lie over the rows, so that all are equally thick where a point is no
-/// whole number of pixels.
-class Dividers : public QWidget {
+/// The outline around the rows and the dividers between them. They lie over the rows, so that each is equally
+/// thick everywhere, also where a point is no whole number of pixels.
+class RowLines : public QWidget {
  public:
-  explicit Dividers(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
+  explicit RowLines(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
@@ -32,34 +32,36 @@ class Dividers : public QWidget {
     const PixelGrid grid(painter);
     for (int above = 0; above + 1 < static_cast<int>(gamepadButtonCount); ++above) {
       const int top = borderWidth + above * (MappingRow::rowHeight + dividerHeight) + MappingRow::rowHeight;
-      QRectF line = grid.snapped(QRectF(borderWidth, top, width() - 2 * borderWidth, dividerHeight));
+      QRectF line = grid.snapped(QRectF(0, top, width(), dividerHeight));
       line.setHeight(grid.lineWidth(dividerHeight));
       fillSharp(painter, line, AppTheme::borderColor());
     }
+    paintOutline(painter, rect(), borderWidth, AppTheme::borderColor());
   }
 };
 
-/// The outline around the rows.
+/// The ground below the rows, with their rule, which goes on through any gap that is left between two.
 class RowBox : public QWidget {
  public:
-  RowBox() : dividers(new Dividers(this)) {}
+  RowBox() : lines(new RowLines(this)) {}
 
   void addRow(MappingRow* row) {
     layout()->addWidget(row);
-    dividers->raise();
+    lines->raise();
   }
 
  protected:
-  void resizeEvent(QResizeEvent* /*event*/) override { dividers->setGeometry(rect()); }
+  void resizeEvent(QResizeEvent* /*event*/) override { lines->setGeometry(rect()); }
 
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     fillSharp(painter, rect(), Qt::white);
-    paintOutline(painter, rect(), borderWidth, AppTheme::borderColor());
+    fillSharp(painter, QRectF(borderWidth + MappingRow::leftCellWidth, 0, MappingRow::ruleWidth, height()),
+              AppTheme::borderColor());
   }
 
  private:
-  Dividers* dividers;
+  RowLines* lines;
 };
 
 constexpr BilingualText titleText{"MACRO_CONFIGURATION", "宏配置"};
@@ -127,7 +129,7 @@ void MappingList::showTexts() {
   showRows();
 }
 
-void MappingList::showRows() {
+void MappingList::showRows() const {
   const AppLanguage language = state.localization.currentLanguage();
   const auto lastPressed = state.controllerManager.lastButtonPressed.get();
   for (const GamepadButton button : allGamepadButtons()) {

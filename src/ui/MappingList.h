@@ -28,7 +28,7 @@ class MappingList : public QWidget {
   QWidget* makeHeader();
   QWidget* makeBox();
   void showTexts();
-  void showRows();
+  void showRows() const;
   void showOfflineMark();
 
   WindowState& state;

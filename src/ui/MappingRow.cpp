@@ -15,11 +15,9 @@
 namespace vantorel {
 namespace {
 
-constexpr int leftCellWidth = 160;
 constexpr int padding = 12;
 constexpr int markerSize = 8;
 constexpr int markerGap = 8;
-constexpr int ruleWidth = 2;
 constexpr int chevronSize = 10;
 constexpr double chevronOpacity = 0.3;
 constexpr double activeOpacity = 0.1;
@@ -30,7 +28,7 @@ constexpr int focusWidth = 2;
 constexpr BilingualText chooseHelp{"Choose a key.", "选择按键。"};
 constexpr BilingualText unmappedHelp{"Not mapped. Choose a key.", "未映射。选择按键。"};
 
-constexpr int rightCellLeft = leftCellWidth + ruleWidth + padding;
+constexpr int rightCellLeft = MappingRow::leftCellWidth + MappingRow::ruleWidth + padding;
 
 QFont buttonFont() { return systemFont(13, QFont::Bold); }
 

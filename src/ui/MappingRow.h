@@ -17,6 +17,8 @@ class MappingRow : public QAbstractButton {
 
  public:
   static constexpr int rowHeight = 44;
+  static constexpr int leftCellWidth = 160;  ///< the rule follows
+  static constexpr int ruleWidth = 2;
 
   /// What the row shows.
   struct Content {

@@ -255,6 +255,28 @@ TEST_P(MappingListAtScale, HasABorderOfTwoPoints) {
   EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::black));
 }
 
+TEST_P(MappingListAtScale, HasUnbrokenVerticalLinesWhereverItStands) {
+  QWidget* rows = host.row(GamepadButton::buttonA)->parentWidget();
+  for (const int left : {0, 1, 2, 3}) {
+    QWidget page;
+    page.resize(700, 800);
+    rows->setParent(&page);
+    rows->setGeometry(left, left, 653, rows->height());
+    rows->show();
+    const QImage image = rendered(page, GetParam());
+    const int middle = pixels(left + 10);
+    const int right = pixels(left + 653) - 1;
+    const int border = runLength(image, {right, middle}, {-1, 0});
+    EXPECT_NEAR(border, 2 * GetParam(), 0.5);
+    for (int y = pixels(left); y < pixels(left + rows->height()); ++y) {
+      EXPECT_GE(runLength(image, {right, y}, {-1, 0}), border) << y;
+      EXPECT_EQ(image.pixelColor(pixels(left + 2 + 160), y), QColor(Qt::black)) << y;
+    }
+    rows->setParent(nullptr);
+  }
+  delete rows;
+}
+
 TEST_P(MappingListAtScale, HasACellOf160PointsAndARuleOfTwo) {
   MappingRow row(GamepadButton::buttonA);
   row.resize(400, 44);
