@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "TrayTest.h"
 
 namespace vantorel::test {

@@ -2,6 +2,7 @@
 
 #include <xcb/xtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -90,8 +91,8 @@ QImage Screen::picture(xcb_window_t window) const {
                             xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0,
                                           geometry->width, geometry->height, ~0U));
   if (!image) return {};
-  return QImage(xcb_get_image_data(image.get()), geometry->width, geometry->height, geometry->width * 4,
-                QImage::Format_RGB32)
+  return QImage(xcb_get_image_data(image.get()), geometry->width, geometry->height,
+                qsizetype{4} * geometry->width, QImage::Format_RGB32)
       .copy();
 }
 

@@ -38,7 +38,7 @@ int depthOf(const X11Session& session, xcb_visualid_t visual) {
 }  // namespace
 
 EmbeddedFace::EmbeddedFace(MainQueue& mainQueue, const X11Session& x11, xcb_window_t manager)
-    : session(x11), isTranslucent(trayIsTranslucent(manager)), menu(mainQueue) {
+    : session(x11), isTranslucent(trayIsTranslucent(manager)), popup(mainQueue) {
   QSurfaceFormat surface = format();
   surface.setAlphaBufferSize(isTranslucent ? 8 : 0);
   setFormat(surface);
@@ -60,7 +60,7 @@ void EmbeddedFace::setIcon(const TemplateIcon& icon, const QString& description)
   update();
 }
 
-void EmbeddedFace::setMenu(const Menu& entries) { menu.setEntries(entries); }
+void EmbeddedFace::setMenu(const Menu& menu) { popup.setEntries(menu); }
 
 void EmbeddedFace::requestDock(xcb_window_t manager) {
   const auto window = static_cast<xcb_window_t>(winId());
@@ -113,7 +113,7 @@ void EmbeddedFace::paintEvent(QPaintEvent* /*event*/) {
 void EmbeddedFace::mousePressEvent(QMouseEvent* /*event*/) {
   toolTipDelay.stop();
   QToolTip::hideText();
-  menu.popup(QCursor::pos());
+  popup.popup(QCursor::pos());
 }
 
 bool EmbeddedFace::event(QEvent* event) {

@@ -45,7 +45,7 @@ class EmbeddedFace : public QRasterWindow, public QAbstractNativeEventFilter, pu
   bool isTranslucent;
   TemplateIcon symbol;
   QString toolTip;
-  StatusMenu menu;
+  StatusMenu popup;
   QBasicTimer toolTipDelay;
 };
 
