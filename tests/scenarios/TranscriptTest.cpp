@@ -62,7 +62,7 @@ TEST_P(TranscriptTest, IsAsExpected) {
   const fs::path& file = GetParam();
   const std::string expected = contentOf(fs::path(file).replace_extension(".transcript"));
   const std::string actual = transcriptOf(contentOf(file), file.filename().string());
-  EXPECT_TRUE(actual == expected) << file.filename() << ": " << firstDifference(expected, actual);
+  if (actual != expected) ADD_FAILURE() << file.filename() << ": " << firstDifference(expected, actual);
 }
 
 TEST_P(TranscriptTest, IsTheSameEveryTime) {
