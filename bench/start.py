@@ -56,7 +56,7 @@ def measure(build, program, idle):
             # The program inherits no pipe of ours: it would keep it open.
             with tempfile.TemporaryFile("w+") as report:
                 subprocess.run([build / "bench" / "bench_first_frame", program], env=environment, check=True,
-                               stdout=report, stderr=subprocess.DEVNULL)
+                               stdout=report)
                 report.seek(0)
                 words = [line.split() for line in report if line[:1].isdigit()][-1]
             pid, milliseconds = int(words[0]), float(words[1])
