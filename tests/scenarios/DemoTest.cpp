@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <fstream>
+#include <sstream>
+
 #include "DemoScenario.h"
 #include "Play.h"
 
@@ -81,6 +84,18 @@ TEST_F(DemoTest, ShowsUnpluggingAndAnotherPad) {
 }
 
 TEST_F(DemoTest, ShowsTheStateAtTheEnd) { EXPECT_THAT(transcript, HasSubstr("  = isEnabled true\n")); }
+
+TEST_F(DemoTest, IsQuotedInTheReadme) {
+  std::ifstream stream(VANTOREL_SOURCE_DIR "/README.md");
+  std::stringstream readme;
+  readme << stream.rdbuf();
+  std::istringstream lines{std::string(demoScenario())};
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.empty()) {
+      EXPECT_THAT(readme.str(), HasSubstr("    " + line + "\n"));
+    }
+  }
+}
 
 }  // namespace
 }  // namespace vantorel
