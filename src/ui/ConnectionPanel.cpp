@@ -46,6 +46,8 @@ ConnectionPanel::ConnectionPanel(WindowState& windowState, QWidget* parent)
   input = addLine(QFont::Bold);
   input->reserveFor(allInputLines());
   device->reserveLines(linesOfName);
+  status->reserveFor({online.in(AppLanguage::english), online.in(AppLanguage::chinese),
+                      disconnected.in(AppLanguage::english)});
   const GameControllerManager& manager = state.controllerManager;
   follow([this] { refresh(); }, manager.isControllerConnected, manager.connectedControllerName,
          manager.lastButtonPressed);

@@ -1,10 +1,7 @@
 #include "LanguageMenu.h"
 
-#include <algorithm>
-
 #include "AppTheme.h"
 #include "BilingualText.h"
-#include "RetroMenu.h"
 
 namespace vantorel {
 
@@ -21,16 +18,16 @@ QString nameOf(AppLanguage language) {
 }  // namespace
 
 LanguageMenu::LanguageMenu(WindowState& windowState, QWidget* parent)
-    : RetroButton(AppTheme::secondaryAccent(), {}, parent), state(windowState) {
+    : RetroButton(AppTheme::secondaryAccent(), {}, parent), state(windowState), menu(new RetroMenu(this)) {
   setSymbol(Icon::globe);
+  connect(this, &QPushButton::clicked, this, &LanguageMenu::openMenu);
   fillMenu();
   updates.follow([this] { refresh(); }, state.localization.currentLanguage());
 }
 
-/// The button keeps the width of the longest name, so that nothing beside it moves.
+/// The button keeps the size of the largest name, so that nothing beside it moves.
 void LanguageMenu::fillMenu() {
-  auto* menu = new RetroMenu(this);
-  int width = 0;
+  QSize largest;
   for (const AppLanguage language : allAppLanguages()) {
     QAction* const entry = menu->addAction(nameOf(language));
     entry->setCheckable(true);
@@ -40,10 +37,17 @@ void LanguageMenu::fillMenu() {
     });
     entries.push_back(entry);
     setText(nameOf(language));
-    width = std::max(width, sizeHint().width());
+    largest = largest.expandedTo(sizeHint());
   }
-  setFixedWidth(width);
-  setMenu(menu);
+  setFixedSize(largest);
+}
+
+/// Not by `setMenu`, which would wait in here until the menu is closed.
+void LanguageMenu::openMenu() {
+  menu->popup(mapToGlobal(QPoint(0, height())));
+  for (QAction* const entry : entries) {
+    if (entry->isChecked()) menu->setActiveAction(entry);
+  }
 }
 
 void LanguageMenu::refresh() {
@@ -54,7 +58,7 @@ void LanguageMenu::refresh() {
   setText(nameOf(current));
   setToolTip(hint.in(current));
   setAccessibleName(name.in(current) + QStringLiteral(": ") + nameOf(current));
-  menu()->setAccessibleName(name.in(current));
+  menu->setAccessibleName(name.in(current));
 }
 
 }  // namespace vantorel

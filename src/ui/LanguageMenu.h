@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "RetroButton.h"
+#include "RetroMenu.h"
 #include "ViewUpdates.h"
 #include "WindowState.h"
 
@@ -17,9 +18,11 @@ class LanguageMenu : public RetroButton {
 
  private:
   void fillMenu();
+  void openMenu();
   void refresh();
 
   WindowState& state;
+  RetroMenu* menu;
   std::vector<QAction*> entries;  ///< in the order of the languages
   ViewUpdates updates;
 };

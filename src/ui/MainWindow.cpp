@@ -27,6 +27,7 @@ MainWindow::MainWindow(WindowState& windowState, Actions windowActions)
   setCentralWidget(pages);
   fillMenuBar();
   content->setFocus();
+  resize(sizeHint());  // also where Qt would find that too large for the screen
   updates.follow([this] { refresh(); }, state.localization.currentLanguage());
 }
 
