@@ -1,6 +1,7 @@
 #include "WindowProgram.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <algorithm>
 
 #include "Remedies.h"
@@ -33,6 +34,8 @@ void WindowProgram::openWindow() {
   auto widget = std::make_unique<MainWindow>(
       state, MainWindow::Actions{[this] { openWindow(); }, [this, &state] { closed(state); },
                                  [] { QCoreApplication::quit(); }});
+  // Left to itself, Qt would keep the window to two thirds of the screen.
+  widget->resize(widget->sizeHint().boundedTo(widget->screen()->availableSize()));
   windows.push_back({state, std::move(widget)});
   windows.back().widget->show();
   state.appear();
