@@ -16,7 +16,12 @@ FileDescriptor openPipe(const std::filesystem::path& path) {
 
 }  // namespace
 
-DesktopSession::DesktopSession() : windowManager_(server_), pipe_(openPipe(directory_.path() / "pads")) {
+DesktopSession::DesktopSession(const std::vector<std::string>& serverArguments,
+                               const std::vector<std::string>& services)
+    : server_(serverArguments),
+      windowManager_(server_),
+      bus_(services, {server_.environment()}),
+      pipe_(openPipe(directory_.path() / "pads")) {
   std::filesystem::create_directories(directory_.path() / "runtime");
   std::filesystem::permissions(directory_.path() / "runtime", std::filesystem::perms::owner_all);
 }

@@ -16,10 +16,14 @@ namespace vantorel::test {
 /// A user's session of its own: an X server with a window manager, a message bus, settings, and virtual pads.
 class DesktopSession {
  public:
-  DesktopSession();
+  /// `serverArguments` are added to the X server's command line; `services` are those installed ones that the
+  /// message bus starts when they are asked for.
+  explicit DesktopSession(const std::vector<std::string>& serverArguments = {},
+                          const std::vector<std::string>& services = {});
 
   const XServer& server() const { return server_; }
   XServer& server() { return server_; }
+  const MessageBus& bus() const { return bus_; }
 
   /// What a program of this session finds in its environment.
   std::vector<std::string> environment() const;

@@ -1,0 +1,90 @@
+// The program from its start to its end.
+
+#include <linux/input-event-codes.h>
+
+#include <csignal>
+#include <fstream>
+#include <sstream>
+
+#include "WindowTest.h"
+#include "XClient.h"
+
+namespace vantorel::test {
+namespace {
+
+using testing::HasSubstr;
+
+using Start = WindowTest;
+
+constexpr std::uint8_t xKey(int linuxKeyCode) { return static_cast<std::uint8_t>(linuxKeyCode + 8); }
+
+TEST_F(Start, OpensAWindowOfAtLeast1100By800) {
+  start();
+  const auto size = windows.size(window());
+  EXPECT_GE(size.width, 1100);
+  EXPECT_GE(size.height, 800);
+  EXPECT_EQ(program->errorOutput(), "");
+}
+
+TEST_F(Start, TheHotKeyFlipsTheMappingWhileAnotherWindowHasTheKeyboard) {
+  start();
+  XClient client(session.server());
+  const auto pressHotKey = [&] { client.type(xKey(KEY_M), {xKey(KEY_LEFTMETA), xKey(KEY_LEFTSHIFT)}); };
+  pressHotKey();
+  EXPECT_TRUE(eventuallySays(mappingOn));
+  pressHotKey();
+  EXPECT_TRUE(eventuallySays(mappingOff));
+}
+
+TEST_F(Start, ControlQEndsTheProgram) {
+  start();
+  screen.press({XK_Control_L, XK_q});
+  ASSERT_TRUE(eventually([&] { return !program->isRunning(); }));
+  EXPECT_EQ(program->waitForExit(), 0);
+}
+
+TEST_F(Start, ControlNOpensAnotherWindowAndControlWClosesOne) {
+  start();
+  screen.press({XK_Control_L, XK_n});
+  ASSERT_TRUE(eventually([&] {
+    return windowCount() == 2 && windows.active() == windows.highest() &&
+           windows.highest() == windows.titled("Vantorel").back();
+  }));
+  screen.press({XK_Control_L, XK_w});
+  ASSERT_TRUE(eventually([&] { return isInFront(); }));
+  screen.press({XK_Control_L, XK_w});
+  ASSERT_TRUE(eventually([&] { return windowCount() == 0; }));
+  EXPECT_EQ(startAgain(), 0);
+  EXPECT_TRUE(eventually([&] { return isInFront(); }));
+}
+
+TEST_F(Start, ClosingTheWindowEndsNothing) {
+  start();
+  closeWindow();
+  EXPECT_EQ(startAgain({"--toggle"}), 0);
+  EXPECT_TRUE(eventuallySays(mappingOn));
+  EXPECT_EQ(windowCount(), 0U);
+}
+
+TEST_F(Start, SigtermEndsTheProgramInGoodOrder) {
+  start();
+  program->signal(SIGTERM);
+  EXPECT_EQ(program->waitForExit(), 0);
+}
+
+TEST_F(Start, DamagedSettingsAreKeptAndTheProgramBeginsWithTheDefaults) {
+  const std::string damage = "{\"data\": {\"gamepad_keyboard_mappings\": ";
+  const auto file = session.settings() / "vantorel" / "settings.json";
+  std::filesystem::create_directories(file.parent_path());
+  std::ofstream(file) << damage;
+  start();
+  EXPECT_THAT(program->errorOutput(), HasSubstr("settings.json cannot be read (damaged)"));
+  std::stringstream kept;
+  kept << std::ifstream(file.string() + ".damaged").rdbuf();
+  EXPECT_EQ(kept.str(), damage);
+  EXPECT_EQ(startAgain({"--toggle"}), 0);
+  EXPECT_TRUE(eventuallySays(mappingOn));
+}
+
+}  // namespace
+}  // namespace vantorel::test
