@@ -5,6 +5,7 @@
 
 #include "CommandLine.h"
 #include "Commands.h"
+#include "QtTypeRegistry.h"
 #include "StandardError.h"
 
 namespace {
@@ -34,6 +35,7 @@ struct Dispatcher {
 }  // namespace
 
 int main(int argc, char** argv) {
+  makeQtTypeRegistry();
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   return std::visit(Dispatcher{argc, argv}, parseCommandLine(arguments));
 }

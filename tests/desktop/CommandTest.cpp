@@ -75,6 +75,14 @@ TEST(Command, AFileThatCannotBeReadGivesStatusTwo) {
   EXPECT_EQ(result.errors, "vantorel: cannot read /nowhere/at.all\n");
 }
 
+TEST(Command, ADirectoryInPlaceOfAFileGivesStatusTwo) {
+  const TemporaryDirectory directory;
+  const Result result = run({"--play", directory.path()});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.output, IsEmpty());
+  EXPECT_EQ(result.errors, "vantorel: cannot read " + directory.path().string() + "\n");
+}
+
 TEST(Command, AnEmptyFileNameIsReportedAsSuch) {
   const Result result = run({"--play", ""});
   EXPECT_EQ(result.status, 2);
@@ -95,7 +103,7 @@ TEST(Command, TheDemoPlaysToTheEndAndIsTheSameEachTime) {
   const Result first = run({"--demo"});
   const Result second = run({"--demo"});
   EXPECT_EQ(first.status, 0) << first.errors;
-  EXPECT_THAT(first.output, HasSubstr("key down 49"));
+  EXPECT_THAT(first.output, HasSubstr("key down 53"));
   EXPECT_EQ(first.output, second.output);
 }
 
