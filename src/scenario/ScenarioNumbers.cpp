@@ -31,11 +31,14 @@ std::optional<Digits> digits(std::string_view text) {
 
 template <class Number>
 std::optional<Number> number(std::string_view text) {
-  if (!digits(text.substr(text.starts_with('-') ? 1 : 0))) return std::nullopt;
+  const auto sides = digits(text.substr(text.starts_with('-') ? 1 : 0));
+  if (!sides) return std::nullopt;
   Number value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec != std::errc{}) return std::nullopt;
-  return value;
+  if (result.ec == std::errc{}) return value;
+  // Out of range: either too large, or so small that the nearest value is zero.
+  const bool isSmall = sides->whole.find_first_not_of('0') == std::string_view::npos;
+  return isSmall ? std::optional(Number{0}) : std::nullopt;
 }
 
 /// The value of `number` times ten to the power of `places`, to the nearest whole.

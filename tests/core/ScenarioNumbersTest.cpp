@@ -33,6 +33,13 @@ TEST(ScenarioNumbersTest, ReadTheNearestSinglePrecisionValueOfTheText) {
   EXPECT_THAT(singlePrecisionNumber("0.50000002980232238769"), Optional(0.5F));
 }
 
+TEST(ScenarioNumbersTest, ReadWhatIsTooSmallForItsTypeAsZero) {
+  const std::string tiny = "0." + std::string(60, '0') + "1";
+  EXPECT_THAT(singlePrecisionNumber(tiny), Optional(0.0F));
+  EXPECT_THAT(singlePrecisionNumber("-" + tiny), Optional(0.0F));
+  EXPECT_THAT(decimalNumber("0." + std::string(400, '0') + "1"), Optional(0.0));
+}
+
 TEST(ScenarioNumbersTest, ReadTimesInMillisecondsAndSeconds) {
   EXPECT_THAT(timeLength("50ms"), Optional(50ms));
   EXPECT_THAT(timeLength("2s"), Optional(2s));
