@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 
+#include "AccessibleRole.h"
 #include "AppTheme.h"
 #include "Icons.h"
 #include "PixelGrid.h"
@@ -62,6 +63,8 @@ RetroScrollArea::RetroScrollArea(QWidget* parent) : QScrollArea(parent) {
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBar(new RetroScrollBar(Qt::Vertical, this));
   viewport()->setAutoFillBackground(false);
+  // Qt's own accessible scroll area crashes when it is asked for the scroll bar that has just been hidden.
+  presentAs(this, QAccessible::Client);
 }
 
 void RetroScrollArea::setContent(QWidget* content) {
