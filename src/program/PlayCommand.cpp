@@ -1,6 +1,7 @@
+#include <array>
+#include <cstddef>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <variant>
@@ -15,7 +16,16 @@
 namespace vantorel {
 namespace {
 
-std::string readAll(std::istream& stream) { return {std::istreambuf_iterator<char>(stream), {}}; }
+/// What is left in `stream`, which is bad afterwards if it cannot be read: a directory opens like a file.
+std::string readAll(std::istream& stream) {
+  std::string text;
+  std::array<char, 4096> part{};
+  do {
+    stream.read(part.data(), part.size());
+    text.append(part.data(), static_cast<std::size_t>(stream.gcount()));
+  } while (stream);
+  return text;
+}
 
 /// The text of the scenario file `name`, or none when it cannot be read.
 std::optional<std::string> readScenario(const std::string& name) {
