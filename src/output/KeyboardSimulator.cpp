@@ -12,6 +12,18 @@ namespace {
 /// How long a key stays down.
 constexpr std::chrono::microseconds pressDuration{50'000};
 
+/// What is written about one of the two events.
+struct EventLines {
+  const char* created;
+  const char* sent;
+  const char* failed;
+};
+
+constexpr EventLines downLines{"✅ CGEvent 按下事件创建成功", "✅ 已发送按键按下事件 (.cgSessionEventTap)",
+                               "❌ 无法创建 CGEvent 按下事件"};
+constexpr EventLines upLines{"✅ CGEvent 释放事件创建成功", "✅ 已发送按键释放事件 (.cgSessionEventTap)",
+                             "❌ 无法创建 CGEvent 释放事件"};
+
 }  // namespace
 
 KeyboardSimulator::KeyboardSimulator(Platform& platform, CurrentLanguage currentLanguage)
@@ -28,34 +40,22 @@ void KeyboardSimulator::pressKey(KeyboardKey key) {
   const std::uint16_t code = keyCode(key);
   output.writeLine("🔧 开始发送键盘事件: " + std::string(displayName(key, language())) +
                    " (keyCode=" + std::to_string(code) + ")");
-  postKeyDown(code);
+  postKey(code, true);
   services.clock.sleep(pressDuration);
-  postKeyUp(code);
+  postKey(code, false);
   output.writeLine("🏁 键盘事件发送完成");
 }
 
-void KeyboardSimulator::postKeyDown(std::uint16_t code) {
-  StandardOutput& output = services.standardOutput;
-  const auto event = services.eventPoster.makeKeyboardEvent(code, true);
+void KeyboardSimulator::postKey(std::uint16_t code, bool isDown) {
+  const EventLines& lines = isDown ? downLines : upLines;
+  const auto event = services.eventPoster.makeKeyboardEvent(code, isDown);
   if (!event) {
-    output.writeLine("❌ 无法创建 CGEvent 按下事件");
+    services.standardOutput.writeLine(lines.failed);
     return;
   }
-  output.writeLine("✅ CGEvent 按下事件创建成功");
+  services.standardOutput.writeLine(lines.created);
   services.eventPoster.post(*event);
-  output.writeLine("✅ 已发送按键按下事件 (.cgSessionEventTap)");
-}
-
-void KeyboardSimulator::postKeyUp(std::uint16_t code) {
-  StandardOutput& output = services.standardOutput;
-  const auto event = services.eventPoster.makeKeyboardEvent(code, false);
-  if (!event) {
-    output.writeLine("❌ 无法创建 CGEvent 释放事件");
-    return;
-  }
-  output.writeLine("✅ CGEvent 释放事件创建成功");
-  services.eventPoster.post(*event);
-  output.writeLine("✅ 已发送按键释放事件 (.cgSessionEventTap)");
+  services.standardOutput.writeLine(lines.sent);
 }
 
 }  // namespace vantorel

@@ -22,8 +22,7 @@ class KeyboardSimulator {
   void pressKey(KeyboardKey key);
 
  private:
-  void postKeyDown(std::uint16_t code);
-  void postKeyUp(std::uint16_t code);
+  void postKey(std::uint16_t code, bool isDown);
 
   Platform& services;
   CurrentLanguage language;
