@@ -196,6 +196,20 @@ TEST_F(Discovery, TheNewestControllerReplacesTheAdoptedOne) {
   EXPECT_THAT(machine.takeEffects(), ElementsAre("key down 0", "key up 0"));
 }
 
+TEST_F(Discovery, ComingAndGoingLeavesWhatIsKnownOfTheLatestPress) {
+  const auto first = machine.plugPad("First", "Gamepad");
+  GameControllerManager& manager = machine.launch();
+  machine.map({{GamepadButton::buttonB, KeyboardKey::escape}});
+  first->press(GamepadButton::buttonB);
+  machine.advance(200ms);
+  machine.plugPad("Second", "Gamepad");
+  machine.platform.gameControllers.unplug(first);
+  machine.settle();
+  EXPECT_EQ(manager.lastButtonPressed.get(), GamepadButton::buttonB);
+  EXPECT_EQ(manager.lastKeyboardKeyPressed.get(), KeyboardKey::escape);
+  EXPECT_EQ(manager.debugMessage.get(), "✅ B → ESC");
+}
+
 TEST_F(Discovery, HandlersOnAnEarlierControllerStay) {
   const auto first = machine.plugPad("First", "Gamepad");
   machine.launch();
