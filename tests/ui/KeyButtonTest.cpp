@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
+#include <cmath>
 
 #include "AppTheme.h"
 #include "Rendering.h"
@@ -39,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(KeyButton, KeyButtonAtScale, allScales(), scaleName);
 
 TEST_P(KeyButtonAtScale, HasABorderOfTwoPoints) {
   const QImage image = picture(false, GetParam());
-  const int border = static_cast<int>(2 * GetParam() + 0.5);
+  const int border = static_cast<int>(std::lround(2 * GetParam()));
   const QPoint right(image.width() - 1, image.height() / 2);
   EXPECT_EQ(runLength(image, {0, image.height() / 2}, {1, 0}), border);
   EXPECT_EQ(runLength(image, right, {-1, 0}), border);

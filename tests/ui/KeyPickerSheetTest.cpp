@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
+#include <cmath>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -41,7 +42,9 @@ class KeyPickerSheetTest : public testing::Test {
   }
 
   /// Clicks into the window; whatever lies there gets it.
-  void clickAt(QPoint place) { QTest::mouseClick(host.window.windowHandle(), Qt::LeftButton, {}, place); }
+  void clickAt(QPoint place) const {
+    QTest::mouseClick(host.window.windowHandle(), Qt::LeftButton, {}, place);
+  }
 
   bool isInView(const QWidget* part) const {
     const QWidget* viewport = picker()->scrollArea()->viewport();
@@ -320,7 +323,9 @@ class KeyPickerSheetAtScale : public testing::TestWithParam<ScaleAndLanguage> {
     QTest::qWait(1);
   }
 
-  int pixels(double points) const { return static_cast<int>(points * std::get<double>(GetParam()) + 0.5); }
+  int pixels(double points) const {
+    return static_cast<int>(std::lround(points * std::get<double>(GetParam())));
+  }
 
   QImage windowPicture() { return rendered(host.window, std::get<double>(GetParam())); }
 

@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QScrollBar>
 #include <QTest>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -179,7 +180,7 @@ TEST_P(KeyPickerViewIn, HasRoomForEveryName) {
 
 class KeyPickerViewAtScale : public testing::TestWithParam<double> {
  protected:
-  int pixels(double points) const { return static_cast<int>(points * GetParam() + 0.5); }
+  int pixels(double points) const { return static_cast<int>(std::lround(points * GetParam())); }
 };
 
 INSTANTIATE_TEST_SUITE_P(KeyPickerView, KeyPickerViewAtScale, allScales(), scaleName);

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QTest>
+#include <cmath>
 #include <map>
 #include <string>
 
@@ -216,7 +217,7 @@ class MappingListAtScale : public testing::TestWithParam<double> {
   MappingListAtScale() { host.activate(); }
 
   /// Where an edge at `points` lies.
-  int pixels(double points) const { return static_cast<int>(points * GetParam() + 0.5); }
+  int pixels(double points) const { return static_cast<int>(std::lround(points * GetParam())); }
 
   QImage box() {
     QWidget* rows = host.row(GamepadButton::buttonA)->parentWidget();
