@@ -1,3 +1,4 @@
+#include <exception>
 #include <iostream>
 #include <string>
 #include <variant>
@@ -35,7 +36,12 @@ struct Dispatcher {
 }  // namespace
 
 int main(int argc, char** argv) {
-  makeQtTypeRegistry();
-  const std::vector<std::string> arguments(argv + 1, argv + argc);
-  return std::visit(Dispatcher{argc, argv}, parseCommandLine(arguments));
+  try {
+    makeQtTypeRegistry();
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    return std::visit(Dispatcher{argc, argv}, parseCommandLine(arguments));
+  } catch (const std::exception& problem) {
+    complain(problem.what());
+    return 1;
+  }
 }
