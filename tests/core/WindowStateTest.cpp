@@ -143,6 +143,16 @@ TEST_F(Window, ChoosingTheKeyItHasSavesButIsNoChange) {
   EXPECT_EQ(lines[1], "| [09:00:00] 🔄 已更新 8 个按键映射");
 }
 
+TEST_F(Window, ThePickerClosesOnceTheKeyIsStoredAndHandedOver) {
+  WindowState& window = open();
+  window.openKeyPicker(GamepadButton::buttonA);
+  std::vector<std::vector<std::string>> linesBeforeClosings;
+  const auto subscription =
+      window.selectedGamepadButton.observe([&] { linesBeforeClosings.push_back(machine.takeOutput()); });
+  window.chooseKey(KeyboardKey::m);
+  EXPECT_THAT(linesBeforeClosings, ElementsAre(ElementsAre("🔄 已更新 8 个按键映射")));
+}
+
 TEST_F(Window, ClosingThePickerChangesNothing) {
   WindowState& window = open();
   window.openKeyPicker(GamepadButton::buttonA);
