@@ -28,13 +28,17 @@ double inkWidth(const QString& text, const QFont& font) {
   return unbrokenLine(text, font)->lineAt(0).naturalTextWidth();
 }
 
+/// No glyph at the end of a line reaches further over its own advance.
+constexpr double longestOverhang = 4;
+
 /// One paragraph, measured, and its places to break.
 class Paragraph {
  public:
-  Paragraph(const QString& content, const QFont& lineFont)
+  /// `wholeLine` is all of `content`, laid out without a break.
+  Paragraph(const QString& content, const QFont& lineFont, std::unique_ptr<QTextLayout> wholeLine)
       : text(content),
         font(lineFont),
-        line(unbrokenLine(content, lineFont)),
+        line(std::move(wholeLine)),
         unicodeBreaks(QTextBoundaryFinder::Line, text),
         characters(QTextBoundaryFinder::Grapheme, text) {}
 
@@ -45,10 +49,14 @@ class Paragraph {
   /// Whether the part is not wider than `limit`. A last glyph may reach over its own advance, so close to the
   /// limit the part is measured by itself.
   bool fits(qsizetype begin, qsizetype end, double limit) const {
-    constexpr double longestOverhang = 4;
-    const double advance = xAt(withoutBlanks(begin, end)) - xAt(begin);
+    const double advance = advanceOf(begin, end);
     return advance <= limit - longestOverhang ||
            (advance <= limit && inkWidth(part(begin, end), font) <= limit);
+  }
+
+  /// How far the part moves the pen.
+  double advanceOf(qsizetype begin, qsizetype end) const {
+    return xAt(withoutBlanks(begin, end)) - xAt(begin);
   }
 
   /// The next place after `position` at which the text may be parted without need.
@@ -78,7 +86,12 @@ class Paragraph {
 
   bool isUnicodeBreak(qsizetype position) {
     unicodeBreaks.setPosition(position);
-    return unicodeBreaks.isAtBoundary();
+    return unicodeBreaks.isAtBoundary() && !isInFullWidthParentheses(position);
+  }
+
+  /// Chinese could be parted anywhere; a remark in parentheses such as "（蓝牙）" rather stays whole.
+  bool isInFullWidthParentheses(qsizetype position) const {
+    return text.lastIndexOf(u'（', position - 1) > text.lastIndexOf(u'）', position - 1);
   }
 
   /// The blanks at a line's end take no room.
@@ -110,11 +123,12 @@ WrappedText::WrappedText(const QString& text, const QFont& font, double width, Q
     : place(alignment) {
   constexpr double roundingError = 0.01;
   for (const QString& content : text.split(u'\n')) {
-    if (auto whole = unbrokenLine(content, font); whole->lineAt(0).naturalTextWidth() <= width) {
+    auto whole = unbrokenLine(content, font);
+    if (whole->lineAt(0).naturalTextWidth() <= width) {
       lines.push_back(std::move(whole));
       continue;
     }
-    Paragraph paragraph(content, font);
+    Paragraph paragraph(content, font, std::move(whole));
     qsizetype begin = 0;
     do {
       const qsizetype end = paragraph.lineEnd(begin, width + roundingError);
@@ -161,14 +175,16 @@ double unbrokenWidth(const QString& text, const QFont& font) {
   return widest;
 }
 
-double widestPart(const QString& text, const QFont& font) {
-  double widest = 0;
+double widestPart(const QString& text, const QFont& font, double least) {
+  double widest = least;
   for (const QString& content : text.split(u'\n')) {
-    Paragraph paragraph(content, font);
+    Paragraph paragraph(content, font, unbrokenLine(content, font));
     qsizetype begin = 0;
     while (begin < paragraph.size()) {
       const qsizetype end = paragraph.nextBreak(begin);
-      widest = std::max(widest, inkWidth(paragraph.part(begin, end), font));
+      if (paragraph.advanceOf(begin, end) + longestOverhang > widest) {
+        widest = std::max(widest, inkWidth(paragraph.part(begin, end), font));
+      }
       begin = end;
     }
   }

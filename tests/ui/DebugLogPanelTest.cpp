@@ -12,10 +12,10 @@ namespace {
 
 class DebugLogPanelTest : public testing::Test {
  protected:
-  QPlainTextEdit& log() { return *host.window->findChild<QPlainTextEdit*>(); }
+  QPlainTextEdit& log() const { return *host.window->findChild<QPlainTextEdit*>(); }
   QStringList lines() { return log().toPlainText().split(u'\n'); }
 
-  QStringList published() {
+  QStringList published() const {
     QStringList texts;
     for (const std::string& line : host.state.controllerManager.debugLogs.get()) {
       texts += QString::fromStdString(line);

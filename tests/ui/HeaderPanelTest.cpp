@@ -17,14 +17,14 @@ class HeaderPanelTest : public testing::Test {
  protected:
   HeaderPanelTest() { host.activate(); }
 
-  HeaderPanel& header() {
+  HeaderPanel& header() const {
     return *dynamic_cast<HeaderPanel*>(host.window->findChildren<LanguageMenu*>().front()->parentWidget());
   }
-  LanguageMenu& languageMenu() { return *host.window->findChildren<LanguageMenu*>().front(); }
+  LanguageMenu& languageMenu() const { return *host.window->findChildren<LanguageMenu*>().front(); }
 
-  QMenu& menu() { return *languageMenu().findChild<QMenu*>(); }
+  QMenu& menu() const { return *languageMenu().findChild<QMenu*>(); }
 
-  QStringList checkedEntries() {
+  QStringList checkedEntries() const {
     QStringList checked;
     for (const QAction* const entry : menu().actions()) {
       if (entry->isChecked()) checked += entry->text();

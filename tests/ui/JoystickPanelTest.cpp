@@ -25,7 +25,9 @@ class JoystickPanelTest : public testing::Test {
     host.key(code);
   }
 
-  const JoystickMouseController& joystick() { return host.state.controllerManager.joystickMouseController; }
+  const JoystickMouseController& joystick() const {
+    return host.state.controllerManager.joystickMouseController;
+  }
 
   OpenWindow host;
 };

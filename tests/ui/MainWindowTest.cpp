@@ -20,9 +20,9 @@ class MainWindowTest : public testing::Test {
  protected:
   MainWindowTest() { host.activate(); }
 
-  QMenu& fileMenu() { return *host.window->menuBar()->actions().front()->menu(); }
+  QMenu& fileMenu() const { return *host.window->menuBar()->actions().front()->menu(); }
 
-  QStringList entries() {
+  QStringList entries() const {
     QStringList texts;
     for (const QAction* const entry : fileMenu().actions()) texts += entry->text();
     return texts;

@@ -53,7 +53,7 @@ void OpenWindow::resizeContent(int width, int height) {
   settle();
 }
 
-void OpenWindow::activate() {
+void OpenWindow::activate() const {
   window->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), 30000));
 }

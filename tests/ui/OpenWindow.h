@@ -36,7 +36,7 @@ class OpenWindow {
   /// The same after resizing the content to `width` and `height`.
   void resizeContent(int width, int height);
   /// Gives the window the keyboard.
-  void activate();
+  void activate() const;
 
   /// The visible widget of a kind that assistive technology knows as `name`; a failure if there is none.
   template <class Widget = QWidget>

@@ -56,6 +56,13 @@ TEST(WrappedText, BreaksBetweenChineseCharacters) {
   EXPECT_EQ(lineCount("摇杆控制", widthOf("摇杆")), 2);
 }
 
+TEST(WrappedText, KeepsARemarkInFullWidthParenthesesWhole) {
+  EXPECT_EQ(widestPart("PS4 DualShock（蓝牙）", monospaced(10)), widthOf("DualShock"));
+  EXPECT_EQ(widestPart("Pro（蓝牙蓝牙蓝牙）", monospaced(10)), widthOf("（蓝牙蓝牙蓝牙）"));
+  EXPECT_EQ(lineCount("PS4 DualShock（蓝牙）", widthOf("PS4 DualShock（蓝")), 2);
+  EXPECT_EQ(lineCount("（蓝牙）摇杆", widthOf("（蓝牙）摇")), 2);
+}
+
 TEST(WrappedText, BreaksInsideAWordOnlyWhereNothingElseHelps) {
   EXPECT_EQ(lineCount("ab abcdefgh", widthOf("abcdefgh")), 2);
   EXPECT_EQ(lineCount("abcdefgh", widthOf("abcd")), 2);
