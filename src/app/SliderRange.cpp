@@ -10,8 +10,8 @@ float SliderRange::valueAt(int step) const {
 }
 
 int SliderRange::nearestStep(double value) const {
-  // In billionths, so that a decimal that lies half-way is not moved off by its binary form.
-  const double hundredths = std::round(std::clamp(value, -1e6, 1e6) * 1e9) / 1e7;
+  // In trillionths, so that a decimal that lies half-way is not moved off by its binary form.
+  const double hundredths = std::round(std::clamp(value, -1e3, 1e3) * 1e12) / 1e10;
   const double steps = std::floor((hundredths - lowerHundredths) / stepHundredths + 0.5);
   return static_cast<int>(std::clamp(steps, 0.0, static_cast<double>(stepCount())));
 }

@@ -41,16 +41,13 @@ void WindowProgram::openWindow() {
   state.appear();
 }
 
-/// A window that is not the last one ends, but not before the event that closed it is done with.
+/// The last window stays, hidden. Another one ends, but not before the event that closed it is done with.
 void WindowProgram::closed(const WindowState& state) {
-  const auto window =
-      std::find_if(windows.begin(), windows.end(), [&](const Window& open) { return &open.state == &state; });
-  if (window == windows.end() || windows.size() == 1) return;
-  MainWindow* const widget = window->widget.release();
-  windows.erase(window);
-  widget->setAttribute(Qt::WA_DeleteOnClose);
-  QObject::connect(widget, &QObject::destroyed, [this, &state] { app.closeWindow(state); });
-  widget->deleteLater();
+  machine.mainQueue().post([this, &state] {
+    if (windows.size() == 1) return;
+    windows.remove_if([&](const Window& open) { return &open.state == &state; });
+    app.closeWindow(state);
+  });
 }
 
 void WindowProgram::toggle() { windows.back().state.toggle(); }

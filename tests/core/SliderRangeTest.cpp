@@ -37,6 +37,7 @@ TEST(SliderRange, SnapsToTheNearestPoint) {
 
 TEST(SliderRange, SnapsUpwardsFromHalfWay) {
   EXPECT_EQ(mouseSensitivityRange.snapped(15.5), 16.0F);
+  EXPECT_EQ(mouseSensitivityRange.snapped(15.4999999999), 15.0F);
   EXPECT_EQ(scrollSensitivityRange.snapped(3.25), 3.5F);
   for (int step = 0; step < deadzoneRange.stepCount(); ++step) {
     const std::string halfWay =
