@@ -23,9 +23,9 @@ WindowProgram::WindowProgram(LinuxMachine::Injection injection)
       app(platform) {}
 
 int WindowProgram::run() {
+  const SignalWatcher signals([](int /*signal*/) { QCoreApplication::quit(); });
   openWindow();
   menuBarModeObservation = MenuBarManager::shared().isMenuBarMode.observe([this] { menuBarModeChanged(); });
-  const SignalWatcher signals([](int /*signal*/) { QCoreApplication::quit(); });
   return QCoreApplication::exec();
 }
 
