@@ -30,6 +30,7 @@ void WindowTest::start() {
   program = std::make_unique<Process>(VANTOREL_PROGRAM, std::vector<std::string>{},
                                       joined(session.environment(), {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1"}));
   require("the window in front", [&] { return isInFront(); });
+  require("the hot key", [&] { return outputCount("热键已注册") == 1; });
 }
 
 int WindowTest::startAgain(const std::vector<std::string>& arguments) {

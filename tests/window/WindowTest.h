@@ -26,7 +26,7 @@ class WindowTest : public testing::Test {
   /// Ends the program as a session does, if the test left it running.
   void TearDown() override;
 
-  /// Starts the program and waits until its window has the keyboard.
+  /// Starts the program and waits until its window has the keyboard and the hot key is there.
   void start();
 
   /// Starts the program a second time with `arguments` and returns its exit status.
