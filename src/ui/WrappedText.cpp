@@ -175,8 +175,8 @@ double unbrokenWidth(const QString& text, const QFont& font) {
   return widest;
 }
 
-double widestPart(const QString& text, const QFont& font, double least) {
-  double widest = least;
+double widestPart(const QString& text, const QFont& font) {
+  double widest = 0;
   for (const QString& content : text.split(u'\n')) {
     Paragraph paragraph(content, font, unbrokenLine(content, font));
     qsizetype begin = 0;

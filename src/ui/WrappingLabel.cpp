@@ -36,42 +36,52 @@ void WrappingLabel::setColor(const QColor& color) {
 
 void WrappingLabel::reserveLines(int lines) {
   reservedLines = lines;
+  measured.clear();
   updateGeometry();
 }
 
 void WrappingLabel::reserveFor(const QStringList& alternatives) {
   reservedTexts = alternatives;
+  measured.clear();
   updateGeometry();
 }
 
-double WrappingLabel::textHeight(const QString& text, double width) const {
-  return WrappedText(text, font(), width).size().height();
+/// Layouts ask many times before a text changes, and the other texts stay when it does.
+const std::vector<MeasuredText>& WrappingLabel::measuredTexts() const {
+  if (!measured.empty() && measured.front().isOf(text(), font())) return measured;
+  if (!measured.empty() && measured.front().hasFont(font())) {
+    measured.front() = MeasuredText(text(), font());
+    return measured;
+  }
+  measured.clear();
+  measured.emplace_back(text(), font());
+  for (const QString& alternative : reservedTexts) measured.emplace_back(alternative, font());
+  if (reservedLines > 0) measured.emplace_back(QString(reservedLines - 1, u'\n'), font());
+  return measured;
 }
 
 int WrappingLabel::heightForWidth(int width) const {
   const QMargins margins = contentsMargins();
   const double room = width - margins.left() - margins.right();
-  double height = textHeight(text(), room);
-  if (reservedLines > 0) height = std::max(height, textHeight(QString(reservedLines - 1, u'\n'), room));
-  for (const QString& alternative : reservedTexts) height = std::max(height, textHeight(alternative, room));
+  double height = 0;
+  for (const MeasuredText& one : measuredTexts()) height = std::max(height, one.heightIn(room));
   return roundedUp(height) + margins.top() + margins.bottom();
 }
 
 QSize WrappingLabel::sizeHint() const {
   const QMargins margins = contentsMargins();
-  double natural = unbrokenWidth(text(), font());
-  for (const QString& alternative : reservedTexts) {
-    natural = std::max(natural, unbrokenWidth(alternative, font()));
-  }
+  double natural = 0;
+  for (const MeasuredText& one : measuredTexts()) natural = std::max(natural, one.unbrokenWidth());
   const int width = roundedUp(natural) + margins.left() + margins.right();
   return {width, heightForWidth(width)};
 }
 
 QSize WrappingLabel::minimumSizeHint() const {
   const QMargins margins = contentsMargins();
-  double widest = widestPart(text(), font());
-  for (const QString& alternative : reservedTexts) {
-    widest = std::max(widest, widestPart(alternative, font()));
+  double widest = 0;
+  for (const MeasuredText& one : measuredTexts()) {
+    const bool canBeWider = one.unbrokenWidth() > widest && widest < longestKeptWord;
+    if (canBeWider) widest = std::max(widest, one.widestPart());
   }
   const int width = roundedUp(std::min(widest, longestKeptWord)) + margins.left() + margins.right();
   return {width, roundedUp(QFontMetricsF(font()).height()) + margins.top() + margins.bottom()};

@@ -4,6 +4,9 @@
 #include <QFont>
 #include <QLabel>
 #include <QStringList>
+#include <vector>
+
+#include "MeasuredText.h"
 
 namespace vantorel {
 
@@ -32,11 +35,13 @@ class WrappingLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  double textHeight(const QString& text, double width) const;
+  const std::vector<MeasuredText>& measuredTexts() const;
 
   QColor textColor;
   int reservedLines = 0;
   QStringList reservedTexts;
+  /// The text and those that room is kept for, as they were when last asked for.
+  mutable std::vector<MeasuredText> measured;
 };
 
 }  // namespace vantorel

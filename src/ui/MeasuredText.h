@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QFont>
+#include <QSizeF>
+#include <QString>
+#include <map>
+#include <optional>
+
+namespace vantorel {
+
+/// How much room a text takes, for layouts that ask again and again: each answer is found once.
+class MeasuredText {
+ public:
+  MeasuredText(const QString& content, const QFont& lineFont);
+
+  /// Its width where nothing but its own line breaks ends a line.
+  double unbrokenWidth() const { return unbroken.width(); }
+
+  /// Its height in lines at most `width` points wide.
+  double heightIn(double width) const;
+
+  /// The width of its widest part that only the last resort would break.
+  double widestPart() const;
+
+  bool isOf(const QString& content, const QFont& lineFont) const {
+    return content == text && hasFont(lineFont);
+  }
+
+  bool hasFont(const QFont& lineFont) const { return lineFont == font; }
+
+ private:
+  QString text;
+  QFont font;
+  QSizeF unbroken;
+  mutable std::map<double, double> heights;  ///< by the width, of which there are few at a time
+  mutable std::optional<double> widest;
+};
+
+}  // namespace vantorel
