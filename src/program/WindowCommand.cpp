@@ -4,6 +4,7 @@
 
 #include "Commands.h"
 #include "RemoteControl.h"
+#include "RetroStyle.h"
 #include "StandardError.h"
 #include "WindowProgram.h"
 
@@ -34,6 +35,7 @@ int openWindow(int& argumentCount, char** arguments) {
     return 1;
   }
   QApplication application(argumentCount, arguments);
+  QApplication::setStyle(new RetroStyle);
   QApplication::setApplicationName("Vantorel");
   QApplication::setDesktopFileName("vantorel");
   QApplication::setQuitOnLastWindowClosed(false);
