@@ -1,6 +1,6 @@
 #include "ConnectionPanel.h"
 
-#include "Typography.h"
+#include "LongestTexts.h"
 
 namespace vantorel {
 
@@ -23,13 +23,15 @@ QString nameOf(GamepadButton button, AppLanguage language) {
   return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-/// Every line that can come, so that it never takes more room than before.
-QStringList allInputLines() {
-  QStringList lines;
+/// The longest lines that can come, so that none takes more room than another.
+QStringList longestInputLines() {
+  QStringList longest;
   for (const AppLanguage language : allAppLanguages()) {
+    QStringList lines;
     for (const GamepadButton button : allGamepadButtons()) lines += inputLine(nameOf(button, language));
+    longest += longestOf(lines);
   }
-  return lines;
+  return longest;
 }
 
 }  // namespace
@@ -44,7 +46,7 @@ ConnectionPanel::ConnectionPanel(WindowState& windowState, QWidget* parent)
   device = addLine();
   addSpace();
   input = addLine(QFont::Bold);
-  input->reserveFor(allInputLines());
+  input->reserveFor(longestInputLines());
   device->reserveLines(linesOfName);
   status->reserveFor({online.in(AppLanguage::english), online.in(AppLanguage::chinese),
                       disconnected.in(AppLanguage::english)});

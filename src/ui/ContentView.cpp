@@ -40,6 +40,8 @@ ContentView::ContentView(WindowState& windowState, QWidget* parent)
   colors.setColor(QPalette::WindowText, AppTheme::text());
   setPalette(colors);
   setMinimumSize(leastSize);
+  resize(idealSize);
+  scroll->resize(idealSize);  // so that the page is laid out at no other width first
   scroll->setContent(makePage());
   scroll->setFocusPolicy(Qt::ClickFocus);  // its keys scroll while no control has the keyboard
   setFocusProxy(scroll);

@@ -1,5 +1,7 @@
 #include "ControllerDetailsPanel.h"
 
+#include "LongestTexts.h"
+
 namespace vantorel {
 
 namespace {
@@ -39,32 +41,38 @@ QString lastKeyLine(AppLanguage language, std::optional<KeyboardKey> key) {
   return line(language, lastKeyName, key ? textOf(displayName(*key, language)) : QStringLiteral("---"));
 }
 
-/// Every line that can come, so that none ever takes more room than before.
-QStringList allFamilyLines() {
-  QStringList lines;
+// The longest lines that can come, so that none takes more room than another.
+
+QStringList longestFamilyLines() {
+  QStringList longest;
   for (const AppLanguage language : allAppLanguages()) {
+    QStringList lines;
     for (const auto type : {ControllerType::unknown, ControllerType::xbox, ControllerType::ps4,
                             ControllerType::ps5, ControllerType::switchPro}) {
       lines += familyLine(language, type);
     }
+    longest += longestOf(lines);
   }
-  return lines;
+  return longest;
 }
 
-QStringList allLastKeyLines() {
-  QStringList lines;
+QStringList longestLastKeyLines() {
+  QStringList longest;
   for (const AppLanguage language : allAppLanguages()) {
+    QStringList lines;
     for (const KeyboardKey key : allKeyboardKeys()) lines += lastKeyLine(language, key);
+    longest += longestOf(lines);
   }
-  return lines;
+  return longest;
 }
 
-QStringList allAnswerLines(const BilingualText& name) {
-  QStringList lines;
+QStringList longestAnswerLines(const BilingualText& name) {
+  QStringList longest;
   for (const AppLanguage language : allAppLanguages()) {
-    for (const bool isTrue : {true, false}) lines += line(language, name, answer(language, isTrue));
+    longest += longestOf(
+        {line(language, name, answer(language, true)), line(language, name, answer(language, false))});
   }
-  return lines;
+  return longest;
 }
 
 }  // namespace
@@ -81,10 +89,10 @@ ControllerDetailsPanel::ControllerDetailsPanel(WindowState& windowState, QWidget
   probe = addButton(AppTheme::secondaryAccent(), [this] { state.startProbe(); });
   tag->setText(QString::fromUtf8(tagText));
   probe->setText(QString::fromUtf8(probeText));
-  extended->reserveFor(allAnswerLines(extendedName));
-  driver->reserveFor(allAnswerLines(driverName));
-  lastKey->reserveFor(allLastKeyLines());
-  family->reserveFor(allFamilyLines());
+  extended->reserveFor(longestAnswerLines(extendedName));
+  driver->reserveFor(longestAnswerLines(driverName));
+  lastKey->reserveFor(longestLastKeyLines());
+  family->reserveFor(longestFamilyLines());
   type->reserveLines(linesOfType);
   const GameControllerManager& manager = state.controllerManager;
   follow([this] { refresh(); }, manager.gamepadType, manager.isExtendedGamepad,

@@ -52,7 +52,7 @@ QAction* MainWindow::addCommand(const QKeySequence& keys, std::function<void()> 
 }
 
 void MainWindow::openMenu() {
-  fileMenu->popup(menuBar()->mapToGlobal(menuBar()->actionGeometry(fileMenu->menuAction()).bottomLeft()));
+  menuBar()->setActiveAction(fileMenu->menuAction());
   fileMenu->setActiveAction(newWindow);
 }
 
