@@ -27,9 +27,7 @@ void RetroMenuBar::paintEvent(QPaintEvent* /*event*/) {
   fillSharp(painter, rect(), AppTheme::cardBackground());
   fillSharp(painter, QRectF(0, height() - lineWidth, width(), lineWidth), AppTheme::borderColor());
   for (QAction* const entry : actions()) {
-    QRect area = actionGeometry(entry);
-    area.setTop(0);
-    area.setBottom(barHeight - lineWidth - 1);
+    const QRect area = actionGeometry(entry);  // what is drawn anew when it opens and closes
     const bool isOpen = entry == activeAction();
     if (isOpen) fillSharp(painter, area, AppTheme::secondaryAccent());
     painter.setPen(isOpen ? AppTheme::cardBackground() : AppTheme::text());
