@@ -1,6 +1,6 @@
-// first_frame PROGRAM [ARGUMENT...]: starts PROGRAM on the X server of DISPLAY and prints its process id and the
-// milliseconds from the start until something was drawn into a window of the size of a main window. The program
-// goes on running.
+// first_frame PROGRAM [ARGUMENT...]: starts PROGRAM on the X server of DISPLAY and prints its process id and
+// the milliseconds from the start until something was drawn into a window of the size of a main window. The
+// program goes on running.
 
 #include <spawn.h>
 #include <xcb/damage.h>
