@@ -11,7 +11,6 @@
 #include "DotGrid.h"
 #include "HeaderPanel.h"
 #include "JoystickPanel.h"
-#include "KeyPickerSheet.h"
 #include "MappingSwitchPanel.h"
 #include "MenuBarPanel.h"
 #include "PermissionPanel.h"
@@ -48,7 +47,6 @@ ContentView::ContentView(WindowState& windowState, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(scroll);
-  new KeyPickerSheet(state, this);
 }
 
 QWidget* ContentView::makePage() {

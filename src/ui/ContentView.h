@@ -13,7 +13,7 @@
 namespace vantorel {
 
 /// The program's window without its frame: the header, the row of panels, the mapping list and the log on a
-/// page that scrolls, and the key picker over it.
+/// page that scrolls.
 class ContentView : public QWidget {
  public:
   /// The size that it should have where the screen has room.

@@ -3,6 +3,7 @@
 #include <QShortcut>
 
 #include "BilingualText.h"
+#include "KeyPickerSheet.h"
 #include "RetroMenu.h"
 #include "RetroMenuBar.h"
 
@@ -27,6 +28,7 @@ MainWindow::MainWindow(WindowState& windowState, Actions windowActions)
   setCentralWidget(pages);
   fillMenuBar();
   content->setFocus();
+  new KeyPickerSheet(state, this);
   resize(sizeHint());  // also where Qt would find that too large for the screen
   updates.follow([this] { refresh(); }, state.localization.currentLanguage());
 }

@@ -16,8 +16,8 @@
 
 namespace vantorel {
 
-/// A window of the program: its content, the standard menu, and the page with a remedy in place of the
-/// content while that is asked for.
+/// A window of the program: its content, the standard menu, the page with a remedy in place of the content
+/// while that is asked for, and the key picker over all of it.
 class MainWindow : public QMainWindow {
  public:
   /// What the window asks of the program. None is null.

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QTest>
 
+#include "KeyPickerSheet.h"
 #include "OpenWindow.h"
 
 namespace vantorel {
@@ -47,6 +48,16 @@ TEST_F(MainWindowTest, AsksTheProgramForWhatItsKeysStandFor) {
   EXPECT_THAT(host.requests, ElementsAre("new window", "quit"));
   host.key(Qt::Key_W, Qt::ControlModifier);
   EXPECT_THAT(host.requests, ElementsAre("new window", "quit", "closed"));
+}
+
+TEST_F(MainWindowTest, LaysTheKeyPickerOverItsMenuBarToo) {
+  host.state.openKeyPicker(GamepadButton::buttonB);
+  host.settle();
+  const auto* const sheet = host.window->findChild<KeyPickerSheet*>();
+  ASSERT_NE(sheet, nullptr);
+  EXPECT_TRUE(sheet->isVisible());
+  EXPECT_EQ(sheet->geometry(), host.window->rect());
+  EXPECT_EQ(host.window->childAt(host.window->menuBar()->geometry().center()), sheet);
 }
 
 TEST_F(MainWindowTest, HidesWhenItIsClosedAndCanBeShownAgain) {
