@@ -158,6 +158,18 @@ TEST(Command, RemoteCommandsSayThatThereIsNoSessionBus) {
   EXPECT_THAT(result.errors, HasSubstr("session bus"));
 }
 
+TEST(Command, TheListNamesEachControllerWithItsFacts) {
+  const TemporaryDirectory directory;
+  const std::filesystem::path pads = directory.path() / "pads";
+  std::ofstream(pads) << "attach \"Xbox Wireless Controller\" 045e 02ea\nattach pad\n";
+  const Result result = run({"--list-controllers"}, {"VANTOREL_VIRTUAL_PADS=" + pads.string()});
+  EXPECT_EQ(result.status, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("name: Xbox Wireless Controller  category: Xbox One  family: Xbox  "
+                                       "profile: extended  node: -\n"));
+  EXPECT_THAT(result.output,
+              HasSubstr("name: pad  category: Virtual  family: Unknown  profile: extended  node: -\n"));
+}
+
 TEST(Command, WithoutControllersTheListSaysSo) {
   const Result result = run({"--list-controllers"});
   EXPECT_EQ(result.status, 0);
