@@ -68,9 +68,9 @@ def measure(build, program, idle):
         finally:
             if pid:
                 os.kill(pid, signal.SIGTERM)
-            for helper in (bus, server):
-                helper.terminate()
-                helper.wait()
+            for server_process in (bus, server):
+                server_process.terminate()
+                server_process.wait()
 
 
 def main():
