@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "LinuxMachine.h"
 #include "NoDesktop.h"
+#include "QtArguments.h"
 #include "RemoteControl.h"
 #include "SignalWatcher.h"
 #include "StandardError.h"
@@ -40,10 +41,8 @@ int run(const RunHeadless& command) {
 }  // namespace
 
 int runHeadless(const RunHeadless& command) {
-  int argumentCount = 1;
-  char name[] = "vantorel";
-  char* arguments[] = {name, nullptr};
-  const QCoreApplication application(argumentCount, arguments);
+  QtArguments arguments;
+  const QCoreApplication application(arguments.count, arguments.values.data());
   try {
     return run(command);
   } catch (const std::exception& problem) {

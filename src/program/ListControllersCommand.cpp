@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 #include "ControllerType.h"
+#include "QtArguments.h"
 #include "QtMainQueue.h"
 #include "SdlController.h"
 #include "SdlGameControllers.h"
@@ -22,10 +23,8 @@ void print(SdlController& controller) {
 }  // namespace
 
 int listControllers() {
-  int argumentCount = 1;
-  char name[] = "vantorel";
-  char* arguments[] = {name, nullptr};
-  const QCoreApplication application(argumentCount, arguments);
+  QtArguments arguments;
+  const QCoreApplication application(arguments.count, arguments.values.data());
   QtMainQueue queue;
   SdlGameControllers service(queue);
   const auto controllers = service.controllers();

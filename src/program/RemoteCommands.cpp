@@ -1,15 +1,14 @@
 #include <QCoreApplication>
 
 #include "Commands.h"
+#include "QtArguments.h"
 #include "StandardError.h"
 
 namespace vantorel {
 
 int askRunningProgram(RemoteCommand command) {
-  int argumentCount = 1;
-  char name[] = "vantorel";
-  char* arguments[] = {name, nullptr};
-  const QCoreApplication application(argumentCount, arguments);
+  QtArguments arguments;
+  const QCoreApplication application(arguments.count, arguments.values.data());
   const RemoteAnswer answer = send(command);
   switch (answer.outcome) {
     case RemoteOutcome::done:

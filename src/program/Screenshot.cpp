@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "MainWindow.h"
+#include "QtArguments.h"
 
 namespace vantorel {
 namespace {
@@ -24,10 +25,8 @@ std::optional<std::string> drawScreenshot(WindowState& state, const std::string&
   qputenv("QT_QPA_PLATFORM", "offscreen");
   // What the offscreen plugin misses of a desktop does not matter to a picture.
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
-  int argumentCount = 1;
-  char name[] = "vantorel";
-  char* arguments[] = {name, nullptr};
-  const QApplication application(argumentCount, arguments);
+  QtArguments arguments;
+  const QApplication application(arguments.count, arguments.values.data());
 
   MainWindow window(state, {[] {}, [] {}, [] {}});
   window.resize(ContentView::idealSize);

@@ -8,6 +8,7 @@
 #include "AppTheme.h"
 #include "BilingualText.h"
 #include "PixelGrid.h"
+#include "ReturnKey.h"
 #include "TextLine.h"
 #include "Typography.h"
 
@@ -49,12 +50,7 @@ void CloseButton::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void CloseButton::keyPressEvent(QKeyEvent* event) {
-  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!isReturn) {
-    QAbstractButton::keyPressEvent(event);
-  } else if (!event->isAutoRepeat()) {
-    click();
-  }
+  if (!clickByReturnKey(*this, *event)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace vantorel

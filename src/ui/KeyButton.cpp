@@ -6,6 +6,7 @@
 
 #include "AppTheme.h"
 #include "PixelGrid.h"
+#include "ReturnKey.h"
 #include "TextLine.h"
 #include "Typography.h"
 
@@ -86,11 +87,8 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
 /// The Return key chooses as well, but not the repeated press of the one that opened the picker. The arrow
 /// keys belong to the picker.
 void KeyButton::keyPressEvent(QKeyEvent* event) {
+  if (clickByReturnKey(*this, *event)) return;
   switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (!event->isAutoRepeat()) click();
-      break;
     case Qt::Key_Left:
     case Qt::Key_Right:
     case Qt::Key_Up:

@@ -9,6 +9,7 @@
 #include "BilingualText.h"
 #include "Icons.h"
 #include "PixelGrid.h"
+#include "ReturnKey.h"
 #include "TextLine.h"
 #include "Typography.h"
 
@@ -96,14 +97,8 @@ void MappingRow::paintKeyCell(QPainter& painter) const {
             AppTheme::faded(AppTheme::borderColor(), chevronOpacity));
 }
 
-/// The Return key opens the picker as well. A held key does so once: it would choose a key there at once.
 void MappingRow::keyPressEvent(QKeyEvent* event) {
-  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!isReturn) {
-    QAbstractButton::keyPressEvent(event);
-  } else if (!event->isAutoRepeat()) {
-    click();
-  }
+  if (!clickByReturnKey(*this, *event)) QAbstractButton::keyPressEvent(event);
 }
 
 }  // namespace vantorel
