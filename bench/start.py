@@ -38,14 +38,6 @@ def proportional_memory(pid):
     raise RuntimeError("the kernel does not tell the memory")
 
 
-def wait_for_display(environment):
-    deadline = time.monotonic() + 30
-    while subprocess.run(["xdpyinfo"], env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode:
-        if time.monotonic() > deadline:
-            raise RuntimeError("the X server does not answer")
-        time.sleep(0.05)
-
-
 def measure(build, program, idle):
     with tempfile.TemporaryDirectory() as home:
         read_end, write_end = os.pipe()
@@ -53,15 +45,14 @@ def measure(build, program, idle):
             ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
-        display = os.read(read_end, 16).decode().strip()
-        os.close(read_end)
+        with os.fdopen(read_end) as answer:  # the whole line: the server dies when the rest finds no reader
+            display = answer.readline().strip()
         bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"],
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         environment = dict(os.environ, DISPLAY=f":{display}", HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home,
                            QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip())
         pid = None
         try:
-            wait_for_display(environment)
             # The program inherits no pipe of ours: it would keep it open.
             with tempfile.TemporaryFile("w+") as report:
                 subprocess.run([build / "bench" / "bench_first_frame", program], env=environment, check=True,
