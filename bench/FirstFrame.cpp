@@ -1,13 +1,16 @@
 // first_frame PROGRAM [ARGUMENT...]: starts PROGRAM on the X server of DISPLAY and prints its process id and
 // the milliseconds from the start until something was drawn into a window of the size of a main window. The
-// program goes on running.
+// program goes on running; what it prints is dropped.
 
+#include <fcntl.h>
 #include <spawn.h>
+#include <unistd.h>
 #include <xcb/damage.h>
 
 #include <chrono>
 #include <cstdio>
 #include <exception>
+#include <system_error>
 
 #include "XcbConnection.h"
 #include "XcbReply.h"
@@ -45,6 +48,18 @@ void waitForDrawing(const XcbConnection& connection) {
   }
 }
 
+/// The program must not write into our report, nor keep the reader of it waiting.
+pid_t startSilently(char** arguments) {
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+  pid_t pid = 0;
+  const int problem = posix_spawn(&pid, arguments[0], &actions, nullptr, arguments, environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (problem != 0) throw std::system_error(problem, std::generic_category(), arguments[0]);
+  return pid;
+}
+
 }  // namespace
 
 int main(int /*argc*/, char** argv) try {
@@ -56,8 +71,7 @@ int main(int /*argc*/, char** argv) try {
   connection.sync();
 
   const auto start = Clock::now();
-  pid_t pid = 0;
-  if (posix_spawn(&pid, argv[1], nullptr, nullptr, argv + 1, environ) != 0) return 1;
+  const pid_t pid = startSilently(argv + 1);
   waitForDrawing(connection);
   const std::chrono::duration<double, std::milli> elapsed = Clock::now() - start;
   std::printf("%d %.1f\n", pid, elapsed.count());

@@ -53,12 +53,9 @@ def measure(build, program, idle):
                            QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip())
         pid = None
         try:
-            # The program inherits no pipe of ours: it would keep it open.
-            with tempfile.TemporaryFile("w+") as report:
-                subprocess.run([build / "bench" / "bench_first_frame", program], env=environment, check=True,
-                               stdout=report)
-                report.seek(0)
-                words = [line.split() for line in report if line[:1].isdigit()][-1]
+            report = subprocess.run([build / "bench" / "bench_first_frame", program], env=environment, check=True,
+                                    stdout=subprocess.PIPE, text=True).stdout
+            words = report.split()
             pid, milliseconds = int(words[0]), float(words[1])
             time.sleep(2)
             memory = proportional_memory(pid)
