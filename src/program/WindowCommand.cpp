@@ -1,6 +1,9 @@
+#include <fontconfig/fontconfig.h>
+
 #include <QApplication>
 #include <exception>
 #include <memory>
+#include <thread>
 
 #include "Commands.h"
 #include "RemoteControl.h"
@@ -34,7 +37,9 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
+  std::jthread fontSearch([] { FcInit(); });  // needs some milliseconds, as does the connection to the display
   QApplication application(argumentCount, arguments);
+  fontSearch.join();
   QApplication::setStyle(new RetroStyle);
   QApplication::setApplicationName("Vantorel");
   QApplication::setDesktopFileName("vantorel");

@@ -70,16 +70,21 @@ QSize RetroButton::sizeAround(double textWidth, double textHeight) const {
 
 int RetroButton::heightForWidth(int width) const {
   const int room = width - sizeAround(0, 0).width();
-  return sizeAround(room, WrappedText(text(), font(), room).size().height()).height();
+  return sizeAround(room, measured().heightIn(room)).height();
+}
+
+const MeasuredText& RetroButton::measured() const {
+  if (!measurement || !measurement->isOf(text(), font())) measurement.emplace(text(), font());
+  return *measurement;
 }
 
 QSize RetroButton::sizeHint() const {
-  const int width = sizeAround(unbrokenWidth(text(), font()), 0).width();
+  const int width = sizeAround(measured().unbrokenWidth(), 0).width();
   return {width, heightForWidth(width)};
 }
 
 QSize RetroButton::minimumSizeHint() const {
-  return {sizeAround(widestPart(text(), font()), 0).width(), sizeHint().height()};
+  return {sizeAround(measured().widestPart(), 0).width(), sizeHint().height()};
 }
 
 QColor RetroButton::currentFill() const {

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "Icons.h"
+#include "MeasuredText.h"
 
 namespace vantorel {
 
@@ -34,11 +35,13 @@ class RetroButton : public QPushButton {
  private:
   int symbolRoom() const;
   QSize sizeAround(double textWidth, double textHeight) const;
+  const MeasuredText& measured() const;
   QColor currentFill() const;
   void paintLabel(QPainter& painter, const QRectF& area) const;
 
   QColor fill;
   std::optional<Icon> symbol;
+  mutable std::optional<MeasuredText> measurement;
 };
 
 }  // namespace vantorel

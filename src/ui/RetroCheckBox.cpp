@@ -45,16 +45,21 @@ QSize RetroCheckBox::sizeAround(double textWidth, double textHeight) const {
 
 int RetroCheckBox::heightForWidth(int width) const {
   const int room = width - sizeAround(0, 0).width();
-  return sizeAround(room, WrappedText(text(), font(), room).size().height()).height();
+  return sizeAround(room, measured().heightIn(room)).height();
+}
+
+const MeasuredText& RetroCheckBox::measured() const {
+  if (!measurement || !measurement->isOf(text(), font())) measurement.emplace(text(), font());
+  return *measurement;
 }
 
 QSize RetroCheckBox::sizeHint() const {
-  const int width = sizeAround(unbrokenWidth(text(), font()), 0).width();
+  const int width = sizeAround(measured().unbrokenWidth(), 0).width();
   return {width, heightForWidth(width)};
 }
 
 QSize RetroCheckBox::minimumSizeHint() const {
-  return {sizeAround(widestPart(text(), font()), 0).width(), sizeHint().height()};
+  return {sizeAround(measured().widestPart(), 0).width(), sizeHint().height()};
 }
 
 bool RetroCheckBox::hitButton(const QPoint& position) const { return rect().contains(position); }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QCheckBox>
+#include <optional>
+
+#include "MeasuredText.h"
 
 namespace vantorel {
 
@@ -24,6 +27,9 @@ class RetroCheckBox : public QCheckBox {
 
  private:
   QSize sizeAround(double textWidth, double textHeight) const;
+  const MeasuredText& measured() const;
+
+  mutable std::optional<MeasuredText> measurement;
 };
 
 }  // namespace vantorel
