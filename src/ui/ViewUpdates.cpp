@@ -2,13 +2,10 @@
 
 namespace vantorel {
 
-void ViewUpdates::refreshSoon() {
-  if (std::exchange(isPending, true)) return;
-  const auto refresh = [this] {
-    isPending = false;
-    refreshView();
-  };
-  QMetaObject::invokeMethod(&receiver, refresh, Qt::QueuedConnection);
+/// Without an interval it runs when the loop is idle: after the input, and after the first frame.
+ViewUpdates::ViewUpdates() {
+  refreshSoon.setSingleShot(true);
+  refreshSoon.callOnTimeout([this] { refreshView(); });
 }
 
 }  // namespace vantorel
