@@ -1,5 +1,6 @@
 #include "LanguageMenu.h"
 
+#include "AccessibleMenuButton.h"
 #include "AppTheme.h"
 #include "BilingualText.h"
 
@@ -21,6 +22,7 @@ LanguageMenu::LanguageMenu(WindowState& windowState, QWidget* parent)
     : RetroButton(AppTheme::secondaryAccent(), {}, parent), state(windowState), menu(new RetroMenu(this)) {
   setSymbol(Icon::globe);
   connect(this, &QPushButton::clicked, this, &LanguageMenu::openMenu);
+  presentAsMenuButton(this, menu);
   fillMenu();
   updates.follow([this] { refresh(); }, state.localization.currentLanguage());
 }
@@ -33,7 +35,8 @@ void LanguageMenu::fillMenu() {
     entry->setCheckable(true);
     connect(entry, &QAction::triggered, this, [this, language] {
       state.chooseLanguage(language);
-      refresh();  // a click unchecks an entry that was checked
+      menu->close();  // a screen reader chooses without a click
+      refresh();      // a click unchecks an entry that was checked
     });
     entries.push_back(entry);
     setText(nameOf(language));

@@ -124,10 +124,34 @@ TEST_F(HeaderPanelTest, SavesTheCurrentLanguageAgainAndKeepsItsMark) {
 
 TEST_F(HeaderPanelTest, TellsAssistiveTechnologyTheLanguageInThatLanguage) {
   EXPECT_EQ(accessibleName(languageMenu()), "Language: English");
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(&languageMenu())->role(), QAccessible::PushButton);
   host.state.chooseLanguage(AppLanguage::chinese);
   host.settle();
   EXPECT_EQ(accessibleName(languageMenu()), "语言: 简体中文");
+}
+
+TEST_F(HeaderPanelTest, ShowsAssistiveTechnologyTheLanguagesBelowTheButton) {
+  const QAccessibleInterface* const button = QAccessible::queryAccessibleInterface(&languageMenu());
+  EXPECT_EQ(button->role(), QAccessible::ButtonMenu);
+  EXPECT_TRUE(button->state().hasPopup);
+  ASSERT_EQ(button->childCount(), 1);
+  EXPECT_EQ(button->child(1), nullptr);
+  const QAccessibleInterface* const entries = button->child(0);
+  EXPECT_EQ(button->indexOfChild(entries), 0);
+  EXPECT_EQ(button->indexOfChild(button), -1);
+  EXPECT_EQ(entries->text(QAccessible::Name), "Language");
+  ASSERT_EQ(entries->childCount(), 2);
+  EXPECT_EQ(entries->child(1)->text(QAccessible::Name), "简体中文");
+}
+
+TEST_F(HeaderPanelTest, LetsAssistiveTechnologyOpenTheMenuAndChoose) {
+  QAccessibleInterface* const button = QAccessible::queryAccessibleInterface(&languageMenu());
+  button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  host.settle();
+  ASSERT_TRUE(menu().isVisible());
+  button->child(0)->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  host.settle();
+  EXPECT_FALSE(menu().isVisible());
+  EXPECT_EQ(host.state.localization.currentLanguage(), AppLanguage::chinese);
 }
 
 TEST_F(HeaderPanelTest, StaysWhereItIsWhenTheLanguageChanges) {

@@ -1,6 +1,5 @@
 #include "ManagedWindows.h"
 
-#include <algorithm>
 #include <cstring>
 #include <initializer_list>
 
@@ -31,21 +30,6 @@ xcb_window_t ManagedWindows::highest() const {
 xcb_window_t ManagedWindows::active() const {
   const auto windows = numbers(connection.root(), "_NET_ACTIVE_WINDOW");
   return windows.empty() ? xcb_window_t{XCB_NONE} : windows.front();
-}
-
-bool ManagedWindows::menuIsOpen() const {
-  constexpr int leastWidth = 64;
-  xcb_connection_t* const server = connection.handle();
-  const XcbReply<xcb_query_tree_reply_t> tree(
-      xcb_query_tree_reply(server, xcb_query_tree(server, connection.root()), nullptr));
-  if (!tree) return false;
-  const xcb_window_t* const first = xcb_query_tree_children(tree.get());
-  return std::any_of(first, first + xcb_query_tree_children_length(tree.get()), [&](xcb_window_t window) {
-    const XcbReply<xcb_get_window_attributes_reply_t> attributes(
-        xcb_get_window_attributes_reply(server, xcb_get_window_attributes(server, window), nullptr));
-    return attributes && attributes->override_redirect != 0 &&
-           attributes->map_state == XCB_MAP_STATE_VIEWABLE && size(window).width >= leastWidth;
-  });
 }
 
 bool ManagedWindows::isMinimised(xcb_window_t window) const {

@@ -24,9 +24,6 @@ class ManagedWindows {
   /// The window that has the keyboard.
   xcb_window_t active() const;
 
-  /// Whether a menu is open: a visible window of some width that no window manager manages.
-  bool menuIsOpen() const;
-
   bool isMinimised(xcb_window_t window) const;
 
   struct Size {
