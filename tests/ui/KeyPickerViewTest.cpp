@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QTest>
 #include <cmath>
@@ -110,6 +112,13 @@ TEST(KeyPickerView, IsDismissedByItsCloseButton) {
   QTest::keyClick(picker.view.closeButton(), Qt::Key_Space);
   EXPECT_EQ(picker.dismissals, 3);
   EXPECT_THAT(picker.chosen, testing::IsEmpty());
+}
+
+TEST(KeyPickerView, IsNotDismissedAgainWhileTheReturnKeyIsHeld) {
+  Picker picker;
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+  QApplication::sendEvent(picker.view.closeButton(), &repeated);
+  EXPECT_EQ(picker.dismissals, 0);
 }
 
 TEST(KeyPickerView, IsReadAsADialogWithItsTitle) {
