@@ -7,8 +7,9 @@ namespace vantorel {
 namespace {
 
 constexpr int iconSize = 32;
-/// The longest name that a controller may tell fits into these at the least width of the window.
-constexpr int linesOfName = 8;
+/// A name of 127 characters, the most that the kernel tells, in words of the usual length fits into these at
+/// the least width of the window.
+constexpr int linesOfName = 10;
 
 constexpr const char* tagText = "SYS_CONNECTION";
 constexpr BilingualText tagHint{"Shows whether a game controller is connected.", "显示是否已连接游戏手柄。"};

@@ -1,5 +1,6 @@
 #include "RemedyView.h"
 
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 #include "DotGrid.h"
@@ -18,6 +19,9 @@ constexpr int spaceBetweenSections = 16;
 constexpr BilingualText whatTag{"WHAT_IS_MISSING", "缺少什么"};
 constexpr BilingualText whyTag{"WHY", "原因"};
 constexpr BilingualText nextStepTag{"NEXT_STEP", "下一步"};
+constexpr BilingualText whatHint{"Says what this desktop lacks.", "说明此桌面缺少什么。"};
+constexpr BilingualText whyHint{"Says what it is needed for.", "说明为什么需要它。"};
+constexpr BilingualText nextStepHint{"Says what you can do about it.", "说明可以怎么做。"};
 constexpr BilingualText backText{"BACK", "返回"};
 constexpr BilingualText backHint{"Returns to the window.", "返回主界面。"};
 
@@ -43,11 +47,15 @@ RemedyView::RemedyView(WindowState& windowState, std::function<void()> goBack, Q
   card->contentLayout()->addWidget(back, 0, Qt::AlignLeft);
   card->setFixedWidth(cardWidth);
 
+  auto* row = new QHBoxLayout;  // its column would ask for the card's height at the width of the page
+  row->addStretch();
+  row->addWidget(card);
+  row->addStretch();
   auto* page = new QWidget;
   auto* pageLayout = new QVBoxLayout(page);
   pageLayout->setContentsMargins(pagePadding, pagePadding, pagePadding, pagePadding);
   pageLayout->addStretch(1);
-  pageLayout->addWidget(card, 0, Qt::AlignHCenter);
+  pageLayout->addLayout(row);
   pageLayout->addStretch(2);
   auto* scrollArea = new RetroScrollArea(this);
   scrollArea->setContent(page);
@@ -77,13 +85,15 @@ void RemedyView::setRemedy(const Remedy& remedy) {
 void RemedyView::refresh() {
   const AppLanguage language = state.localization.currentLanguage();
   const Remedy::Text& text = shown.in(language);
-  const auto fill = [language](const Section& section, const BilingualText& tag, const QString& content) {
+  const auto fill = [language](const Section& section, const BilingualText& tag, const BilingualText& hint,
+                               const QString& content) {
     section.tag->setText(tag.in(language));
+    section.tag->setToolTip(hint.in(language));
     section.text->setText(content);
   };
-  fill(sections[0], whatTag, text.what);
-  fill(sections[1], whyTag, text.why);
-  fill(sections[2], nextStepTag, text.nextStep);
+  fill(sections[0], whatTag, whatHint, text.what);
+  fill(sections[1], whyTag, whyHint, text.why);
+  fill(sections[2], nextStepTag, nextStepHint, text.nextStep);
   back->setText(backText.in(language));
   back->setToolTip(backHint.in(language));
 }

@@ -10,8 +10,10 @@
 
 #include "KeyPickerSheet.h"
 #include "MappingRow.h"
+#include "NothingClipped.h"
 #include "OpenWindow.h"
 #include "RetroSlider.h"
+#include "Typography.h"
 
 namespace vantorel {
 namespace {
@@ -31,43 +33,6 @@ class PaintCounter : public QObject {
 
   std::set<QObject*> painted;
 };
-
-/// What stands in `widget` and is shown.
-std::vector<QWidget*> visibleChildren(const QWidget& widget) {
-  std::vector<QWidget*> children;
-  for (QWidget* const child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-    const bool isOverlay = child->testAttribute(Qt::WA_TransparentForMouseEvents);
-    if (child->isVisible() && !isOverlay) children.push_back(child);
-  }
-  return children;
-}
-
-std::string describe(const QWidget& widget) {
-  std::string text = widget.metaObject()->className();
-  if (const auto* const label = qobject_cast<const QLabel*>(&widget))
-    text += " " + label->text().toStdString();
-  if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget)) {
-    text += " " + button->text().toStdString();
-  }
-  return text;
-}
-
-/// Checks that everything in `widget` has the room that it needs, within `widget` and beside its siblings.
-void expectNothingClipped(const QWidget& widget) {
-  const std::vector<QWidget*> children = visibleChildren(widget);
-  for (const QWidget* const child : children) {
-    EXPECT_TRUE(widget.rect().contains(child->geometry())) << describe(*child);
-    EXPECT_GE(child->height(), child->minimumSizeHint().height()) << describe(*child);
-    if (child->hasHeightForWidth()) {
-      EXPECT_GE(child->height(), child->heightForWidth(child->width())) << describe(*child);
-    }
-    for (const QWidget* const other : children) {
-      EXPECT_TRUE(other == child || !other->geometry().intersects(child->geometry()))
-          << describe(*child) << " over " << describe(*other);
-    }
-    expectNothingClipped(*child);
-  }
-}
 
 struct Layout {
   int width;
@@ -162,6 +127,16 @@ TEST_P(ContentViewLayoutTest, KeepsItsPanelsInPlaceWhenTheirTextsChange) {
   EXPECT_EQ(host.content().scrollArea()->widget()->height(), page);
 }
 
+TEST_P(ContentViewLayoutTest, KeepsItsHeightForTheLongestNameInWords) {
+  const int height = host.content().scrollArea()->widget()->height();
+  host.plug(
+      "Extraordinary Entertainment Corporation Professional Wireless Gaming Controller for Computers and "
+      "Consoles, Second Generation",
+      "Gamepad");
+  expectNothingClippedAnywhere();
+  EXPECT_EQ(host.content().scrollArea()->widget()->height(), height);
+}
+
 TEST_P(ContentViewLayoutTest, KeepsWhatStandsInAPanelInPlaceWhenItsTextsChange) {
   const auto lines = [this](std::size_t index) {
     std::vector<QPoint> corners;
@@ -213,6 +188,11 @@ TEST_F(ContentViewTest, HasItsLeastAndIdealSizes) {
   EXPECT_EQ(host.content().minimumSize(), QSize(1000, 800));
   EXPECT_EQ(host.content().sizeHint(), QSize(1100, 800));
   EXPECT_EQ(host.content().maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
+
+TEST_F(ContentViewTest, SetsTheFontAndTheColourOfTextThatAsksForNone) {
+  EXPECT_EQ(host.content().font(), monospaced());
+  EXPECT_EQ(host.content().palette().color(QPalette::WindowText), AppTheme::text());
 }
 
 TEST_F(ContentViewTest, OpensAsItIsAtAFirstStart) {
