@@ -78,8 +78,8 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
   if (isDown()) fillSharp(painter, rect(), AppTheme::faded(AppTheme::borderColor(), heldOpacity));
   paintOutline(painter, rect(), borderWidth, AppTheme::borderColor());
   if (hasFocus()) {
-    const QRect frame = rect().adjusted(borderWidth, borderWidth, -borderWidth, -borderWidth);
-    paintOutline(painter, frame, focusWidth, isChecked() ? white : AppTheme::secondaryAccent());
+    paintOutline(painter, insideOutline(painter, rect(), borderWidth), focusWidth,
+                 isChecked() ? white : AppTheme::secondaryAccent());
   }
   paintTextLine(painter, rect(), text(), font(), isChecked() ? white : AppTheme::text(), Qt::AlignHCenter);
 }

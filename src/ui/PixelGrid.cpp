@@ -34,11 +34,15 @@ void fillSharp(QPainter& painter, const QRectF& rect, const QColor& color) {
   painter.setRenderHint(QPainter::Antialiasing, antialiased);
 }
 
-void paintOutline(QPainter& painter, const QRectF& rect, double width, const QColor& color) {
+QRectF insideOutline(const QPainter& painter, const QRectF& rect, double width) {
   const PixelGrid grid(painter);
-  const QRectF outer = grid.snapped(rect);
   const double line = grid.lineWidth(width);
-  const QRectF inner = outer.adjusted(line, line, -line, -line);
+  return grid.snapped(rect).adjusted(line, line, -line, -line);
+}
+
+void paintOutline(QPainter& painter, const QRectF& rect, double width, const QColor& color) {
+  const QRectF outer = PixelGrid(painter).snapped(rect);
+  const QRectF inner = insideOutline(painter, rect, width);
   if (inner.isEmpty()) {
     fillSharp(painter, outer, color);
     return;

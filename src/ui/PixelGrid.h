@@ -28,6 +28,9 @@ class PixelGrid {
 /// Fills `rect`, aligned to pixels, without antialiasing.
 void fillSharp(QPainter& painter, const QRectF& rect, const QColor& color);
 
+/// What an outline of `rect` as `paintOutline` draws it leaves inside.
+QRectF insideOutline(const QPainter& painter, const QRectF& rect, double width);
+
 /// Draws the outline of `rect` inside its bounds, with square corners, aligned to pixels.
 void paintOutline(QPainter& painter, const QRectF& rect, double width, const QColor& color);
 

@@ -112,7 +112,7 @@ void RetroButton::paintEvent(QPaintEvent* /*event*/) {
   fillSharp(painter, plate, currentFill());
   paintOutline(painter, plate, outlineWidth, line);
   if (hasFocus()) {
-    const QRectF frame = plate.adjusted(outlineWidth, outlineWidth, -outlineWidth, -outlineWidth);
+    const QRectF frame = insideOutline(painter, plate, outlineWidth);
     paintOutline(painter, frame, focusWidth + 1, AppTheme::borderColor());
     paintOutline(painter, frame, focusWidth, Qt::white);
   }

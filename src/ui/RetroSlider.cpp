@@ -88,7 +88,7 @@ void RetroSlider::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QRectF handle = handleRect();
   const QColor line = isEnabled() ? AppTheme::borderColor() : AppTheme::secondaryText();
-  const QRectF groove(frameMargin, (height() - grooveHeight) / 2.0, width() - 2 * frameMargin, grooveHeight);
+  const QRectF groove(0, (height() - grooveHeight) / 2.0, width(), grooveHeight);
   fillSharp(painter, groove, AppTheme::background());
   QRectF below = groove;
   below.setRight(handle.center().x());

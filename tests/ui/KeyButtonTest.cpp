@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <cmath>
+#include <utility>
 
 #include "AppTheme.h"
 #include "Rendering.h"
@@ -47,6 +48,24 @@ TEST_P(KeyButtonAtScale, HasABorderOfTwoPoints) {
   EXPECT_EQ(runLength(image, {10, 0}, {0, 1}), border);
   EXPECT_EQ(runLength(image, {10, image.height() - 1}, {0, -1}), border);
   EXPECT_EQ(image.pixelColor(0, 0), AppTheme::borderColor());
+}
+
+TEST_P(KeyButtonAtScale, KeepsItsBorderWhileItHasTheFocus) {
+  KeyButton button(KeyboardKey::escape, false);
+  button.resize(148, KeyButton::keyHeight);
+  button.show();
+  button.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&button, 30000));
+  button.setFocus();
+  const QImage image = rendered(button, GetParam());
+  const int border = static_cast<int>(std::lround(2 * GetParam()));
+  for (const auto& [from, step] :
+       {std::pair(QPoint(0, 20), QPoint(1, 0)), std::pair(QPoint(image.width() - 1, 20), QPoint(-1, 0)),
+        std::pair(QPoint(20, 0), QPoint(0, 1)), std::pair(QPoint(20, image.height() - 1), QPoint(0, -1))}) {
+    EXPECT_EQ(runLength(image, from, step), border);
+    EXPECT_EQ(image.pixelColor(from + border * step), AppTheme::secondaryAccent());
+    EXPECT_EQ(runLength(image, from + border * step, step), border) << "the frame";
+  }
 }
 
 TEST(KeyButton, CentresItsName) {
