@@ -6,10 +6,11 @@ namespace {
 
 constexpr char16_t firstWideCharacter = 0x2E80;  // of the Chinese blocks
 
-int columnsOf(const QString& text) {
-  int columns = 0;
-  for (const QChar character : text) columns += character.unicode() >= firstWideCharacter ? 2 : 1;
-  return columns;
+/// In fifths of the font's size.
+int widthOf(const QString& text) {
+  int width = 0;
+  for (const QChar character : text) width += character.unicode() >= firstWideCharacter ? 5 : 3;
+  return width;
 }
 
 }  // namespace
@@ -18,10 +19,10 @@ QStringList longestOf(const QStringList& texts) {
   QStringList longest;
   int most = 0;
   for (const QString& text : texts) {
-    const int columns = columnsOf(text);
-    if (columns < most) continue;
-    if (columns > most) longest.clear();
-    most = columns;
+    const int width = widthOf(text);
+    if (width < most) continue;
+    if (width > most) longest.clear();
+    most = width;
     longest += text;
   }
   return longest;

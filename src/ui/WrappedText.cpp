@@ -86,8 +86,11 @@ class Paragraph {
 
   bool isUnicodeBreak(qsizetype position) {
     unicodeBreaks.setPosition(position);
-    return unicodeBreaks.isAtBoundary() && !isInFullWidthParentheses(position);
+    return unicodeBreaks.isAtBoundary() && !isLastCharacter(position) && !isInFullWidthParentheses(position);
   }
+
+  /// A single character would look lost on the last line.
+  bool isLastCharacter(qsizetype position) const { return position == text.size() - 1; }
 
   /// Chinese could be parted anywhere; a remark in parentheses such as "（蓝牙）" rather stays whole.
   bool isInFullWidthParentheses(qsizetype position) const {

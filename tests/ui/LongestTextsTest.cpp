@@ -9,7 +9,9 @@ TEST(LongestTexts, KeepsAllThatAreEquallyLong) {
   EXPECT_EQ(longestOf({"a", "abc", "ab", "xyz"}), QStringList({"abc", "xyz"}));
 }
 
-TEST(LongestTexts, CountsChineseCharactersTwice) {
+TEST(LongestTexts, TakesAChineseCharacterForWiderThanALetter) {
+  EXPECT_EQ(longestOf({"abcd", "空格"}), QStringList("abcd"));
+  EXPECT_EQ(longestOf({"abcde", "空格空"}), QStringList({"abcde", "空格空"}));
   EXPECT_EQ(longestOf({"abc", "空格", "Tab", "（）"}), QStringList({"空格", "（）"}));
 }
 

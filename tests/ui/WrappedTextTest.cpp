@@ -52,8 +52,16 @@ TEST(WrappedText, BreaksBetweenWordsAndBeforeBracketsButNotInNumbers) {
 }
 
 TEST(WrappedText, BreaksBetweenChineseCharacters) {
-  EXPECT_EQ(widestPart("摇杆控制", monospaced(10)), widthOf("摇"));
+  EXPECT_EQ(widestPart("摇杆控制", monospaced(10)), widthOf("控制"));
   EXPECT_EQ(lineCount("摇杆控制", widthOf("摇杆")), 2);
+}
+
+TEST(WrappedText, LeavesNoSingleCharacterOnTheLastLine) {
+  const auto widthOfLines = [](const char* text, const char* room) {
+    return WrappedText(QString(text), monospaced(10), widthOf(room)).size().width();
+  };
+  EXPECT_DOUBLE_EQ(widthOfLines("滚动页面", "滚动页"), widthOf("滚动"));
+  EXPECT_DOUBLE_EQ(widthOfLines("PS4 DualShock 4", "PS4 DualShock"), widthOf("DualShock 4"));
 }
 
 TEST(WrappedText, KeepsARemarkInFullWidthParenthesesWhole) {
