@@ -60,8 +60,12 @@ void WindowProgram::showWindow() {
   window.activateWindow();
 }
 
+/// In the window that asked for it: the active one, or that opened last.
 void WindowProgram::showRemedy() {
-  windows.back().widget->showRemedy(hasXServer ? remedyForMissingExtension() : remedyForMissingXServer());
+  const auto active = std::find_if(windows.begin(), windows.end(),
+                                   [](const Window& window) { return window.widget->isActiveWindow(); });
+  const Window& asking = active == windows.end() ? windows.back() : *active;
+  asking.widget->showRemedy(hasXServer ? remedyForMissingExtension() : remedyForMissingXServer());
 }
 
 /// "Show Window" leaves the mode; that would help nobody while every window is closed.
