@@ -4,7 +4,9 @@
 
 #include <QTest>
 
+#include "CardFrame.h"
 #include "OpenWindow.h"
+#include "Rendering.h"
 #include "RetroSlider.h"
 
 namespace vantorel {
@@ -136,6 +138,20 @@ TEST_F(JoystickPanelTest, UsesTheGivenSizesAndColours) {
   const QFont font = host.control<QCheckBox>("JOYSTICK_CONTROL")->font();
   EXPECT_EQ(font.weight(), QFont::Black);
   EXPECT_EQ(font.pixelSize(), 10);
+}
+
+TEST_F(JoystickPanelTest, FramesItsInformationThinlyOnAFadedGround) {
+  switchOn();
+  auto& box = *dynamic_cast<CardFrame*>(host.control<QLabel>(glyph)->parentWidget());
+  EXPECT_EQ(box.contentLayout()->contentsMargins(), QMargins(8, 8, 8, 8));
+  EXPECT_EQ(box.contentLayout()->spacing(), 4);
+  const QImage picture = host.panel(3).grab().toImage();
+  const QPoint middle = box.mapTo(&host.panel(3), QPoint(0, box.height() / 2));
+  EXPECT_EQ(picture.pixelColor(middle), AppTheme::borderColor());
+  EXPECT_EQ(runLength(picture, middle, {1, 0}), 1);
+  EXPECT_TRUE(isNearly(picture.pixelColor(middle + QPoint(2, 0)),
+                       blended(AppTheme::background(), 0.5, AppTheme::cardBackground())));
+  EXPECT_EQ(picture.pixelColor(middle - QPoint(1, 0)), AppTheme::cardBackground()) << "no shadow";
 }
 
 }  // namespace
