@@ -18,7 +18,8 @@ class VantorelApp {
   /// The state of a new window, which has yet to `appear`. It is valid until the window is closed.
   WindowState& openWindow();
 
-  /// Ends `window` and what it owns. The hot key goes to the window opened last among the others.
+  /// Ends `window` and what it owns. The hot key and the status menu go to the window opened last among the
+  /// others.
   void closeWindow(const WindowState& window);
 
  private:

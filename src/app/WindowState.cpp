@@ -35,10 +35,14 @@ void WindowState::watch() {
   menuBarModeObservation = menuBarManager.isMenuBarMode.observe([this] { settleLater(); });
 }
 
-/// Another window may have changed what all windows share.
+/// Another window has changed what all windows share, and has done what follows from it.
 void WindowState::settleLater() {
   if (isPerforming) return;
-  services.mainQueue.post(lifetime.guard([this] { perform([] {}); }));
+  services.mainQueue.post(lifetime.guard([this] {
+    isFollowing = true;
+    perform([] {});
+    isFollowing = false;
+  }));
 }
 
 void WindowState::perform(const std::function<void()>& action) {
@@ -51,6 +55,7 @@ void WindowState::perform(const std::function<void()>& action) {
 
 void WindowState::appear() {
   hotkeyManager.registerHotkey(lifetime.guard([this] { toggle(); }));
+  if (menuBarManager.isMenuBarMode) menuBarManager.setupMenuBar(isEnabled, menuBarActions());
 }
 
 void WindowState::setEnabled(bool enabled) {
@@ -139,6 +144,7 @@ void WindowState::joystickSwitched(bool enabled) {
 }
 
 void WindowState::menuBarModeSwitched(bool on) {
+  if (isFollowing) return;
   if (on) {
     menuBarManager.setupMenuBar(isEnabled, menuBarActions());
     menuBarManager.hideFromDock();

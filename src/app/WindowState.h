@@ -42,7 +42,8 @@ class WindowState {
   /// Whether the desktop has a status bar, which menu-bar mode needs.
   const Published<bool>& statusBarIsPresent() const { return services.statusBar.isPresent(); }
 
-  /// The window shows: the hot key flips its mapping switch from now on.
+  /// The window shows: the hot key flips its mapping switch from now on, and in menu-bar mode so does the
+  /// status menu.
   void appear();
 
   void setEnabled(bool enabled);
@@ -82,6 +83,7 @@ class WindowState {
   Platform& services;
   Reactions reactions;
   bool isPerforming = false;
+  bool isFollowing = false;  ///< it catches up with a change of another window
   Subscription menuBarModeObservation;
   Lifetime lifetime;
 };

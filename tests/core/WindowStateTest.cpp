@@ -325,6 +325,36 @@ TEST_F(Window, MenuBarModeEndsForAllWhenOneLeavesIt) {
   EXPECT_FALSE(first.menuBarManager.isMenuBarMode);
 }
 
+TEST_F(Window, TheStatusMenuActsOnTheOneWhereTheModeWasSwitchedOn) {
+  const WindowState& first = open();
+  WindowState& second = open();
+  second.setMenuBarMode(true);
+  machine.settle();
+  EXPECT_THAT(machine.take(), ElementsAre("status item created", inactiveMenu, "policy accessory"));
+  chooseMenuItem("Enable Mapping");
+  EXPECT_FALSE(first.isEnabled);
+  EXPECT_TRUE(second.isEnabled);
+}
+
+TEST_F(Window, TheStatusMenuGoesToAnotherOneWhenItsOwnCloses) {
+  WindowState& first = open();
+  WindowState& second = open();
+  second.setMenuBarMode(true);
+  machine.settle();
+  app->closeWindow(second);
+  chooseMenuItem("Enable Mapping");
+  EXPECT_TRUE(first.isEnabled);
+  const WindowState& third = open();
+  app->closeWindow(first);
+  chooseMenuItem("Enable Mapping");
+  EXPECT_TRUE(third.isEnabled);
+  machine.take();
+  chooseMenuItem("Quit");
+  EXPECT_THAT(machine.take(), Contains("terminate"));
+  chooseMenuItem("Show Window");
+  EXPECT_FALSE(third.menuBarManager.isMenuBarMode);
+}
+
 TEST_F(Window, TheProgramEndsSilentlyButForTheThumbsticks) {
   WindowState& window = open();
   window.setMenuBarMode(true);
