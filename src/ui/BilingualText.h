@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "AppLanguage.h"
 
@@ -14,6 +15,8 @@ struct BilingualText {
   QString in(AppLanguage language) const {
     return QString::fromUtf8(language == AppLanguage::chinese ? chinese : english);
   }
+
+  QStringList inBoth() const { return {in(AppLanguage::english), in(AppLanguage::chinese)}; }
 };
 
 }  // namespace vantorel

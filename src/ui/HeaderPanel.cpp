@@ -24,10 +24,6 @@ constexpr BilingualText hotKeyText{"⌘ + ⇧ + M to toggle", "⌘ + ⇧ + M 快
 constexpr BilingualText hotKeyTooltip{"Switches the mapping from any program; ⌘ is the Super key here.",
                                       "在任何程序中切换映射；⌘ 在这里是 Super 键。"};
 
-QStringList inBothLanguages(const BilingualText& text) {
-  return {text.in(AppLanguage::english), text.in(AppLanguage::chinese)};
-}
-
 CardStyle heavyCard() {
   CardStyle style;
   style.padding = 20;
@@ -47,9 +43,9 @@ HeaderPanel::HeaderPanel(WindowState& windowState, QWidget* parent)
       status(new WrappingLabel(monospaced(statusSize), AppTheme::secondaryText(), this)),
       hotKeyTag(new SectionTag(QString::fromUtf8(hotKeyTagText), this)),
       hotKeyHint(new WrappingLabel(monospaced(statusSize, QFont::Bold), AppTheme::text(), this)) {
-  title->reserveFor(inBothLanguages(titleText));
-  status->reserveFor(inBothLanguages(statusText));
-  hotKeyHint->reserveFor(inBothLanguages(hotKeyText));
+  title->reserveFor(titleText.inBoth());
+  status->reserveFor(statusText.inBoth());
+  hotKeyHint->reserveFor(hotKeyText.inBoth());
   auto* row = new QHBoxLayout;
   row->setSpacing(columnSpacing);
   row->addWidget(new IconView(Icon::controller, iconSize, AppTheme::accent(), this));

@@ -38,6 +38,10 @@ SupportedControllersPanel::SupportedControllersPanel(WindowState& windowState, Q
   addSpace();
   download = addButton(AppTheme::secondaryAccent(), [this] { state.downloadDriver(); });
   tag->setText(QString::fromUtf8(tagText));
+  for (std::size_t index = 0; index < families.size(); ++index) {
+    families.at(index)->reserveFor(familyTexts.at(index).inBoth());
+  }
+  note->reserveFor(noteText.inBoth());
   note->setColor(AppTheme::secondaryText());
   download->setText(QString::fromUtf8(downloadText));
   follow([this] { refresh(); });

@@ -127,6 +127,20 @@ TEST_P(ContentViewLayoutTest, KeepsItsPanelsInPlaceWhenTheirTextsChange) {
   EXPECT_EQ(host.content().scrollArea()->widget()->height(), page);
 }
 
+TEST_P(ContentViewLayoutTest, KeepsItsPanelsInPlaceWhenTheLanguageChanges) {
+  for (const bool isOpen : {false, true}) {
+    if (isOpen) openEverything();
+    const std::vector<QRect> before = places();
+    const int page = host.content().scrollArea()->widget()->height();
+    for (const AppLanguage language : allAppLanguages()) {
+      host.state.chooseLanguage(language);
+      host.settle();
+      EXPECT_EQ(places(), before);
+      EXPECT_EQ(host.content().scrollArea()->widget()->height(), page);
+    }
+  }
+}
+
 TEST_P(ContentViewLayoutTest, KeepsItsHeightForTheLongestNameInWords) {
   const int height = host.content().scrollArea()->widget()->height();
   host.plug(
