@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "Commands.h"
+#include "HeldKeyFilter.h"
 #include "RemoteControl.h"
 #include "RetroStyle.h"
 #include "StandardError.h"
@@ -37,9 +38,12 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
-  std::jthread fontSearch([] { FcInit(); });  // needs some milliseconds, as does the connection to the display
+  std::jthread fontSearch(
+      [] { FcInit(); });  // needs some milliseconds, as does the connection to the display
   QApplication application(argumentCount, arguments);
   fontSearch.join();
+  HeldKeyFilter heldKeys;
+  application.installEventFilter(&heldKeys);
   QApplication::setStyle(new RetroStyle);
   QApplication::setApplicationName("Vantorel");
   QApplication::setDesktopFileName("vantorel");
