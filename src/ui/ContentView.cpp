@@ -57,7 +57,7 @@ QWidget* ContentView::makePage() {
   column->addWidget(new HeaderPanel(state, page));
   column->addSpacing(spacing);
   column->addLayout(makeRows(page));
-  column->addStretch();
+  column->addStretch(1);  // takes all that the window is higher than its page
   return page;
 }
 

@@ -227,8 +227,10 @@ TEST_F(ContentViewTest, PutsTheDotGridBehindAllOfIt) {
 TEST_F(ContentViewTest, ScrollsWhenTheWindowIsLowerThanThePage) {
   host.resizeContent(1000, 800);
   EXPECT_GT(scrollBar().maximum(), 0);
+  const int panelRow = host.panel(0).y();
   host.resizeContent(1000, 2000);
   EXPECT_EQ(scrollBar().maximum(), 0);
+  EXPECT_EQ(host.panel(0).y(), panelRow) << "the room below the page grew, not the header";
 }
 
 TEST_F(ContentViewTest, ScrollsByKeyboardWhileNoControlHasIt) {
