@@ -34,8 +34,7 @@ void WindowProgram::openWindow() {
   auto widget = std::make_unique<MainWindow>(
       state, MainWindow::Actions{[this] { openWindow(); }, [this, &state] { closed(state); },
                                  [] { QCoreApplication::quit(); }});
-  // Left to itself, Qt would keep the window to two thirds of the screen.
-  widget->resize(widget->sizeHint().boundedTo(widget->screen()->availableSize()));
+  widget->fitInto(widget->screen()->availableSize());
   windows.push_back({state, std::move(widget)});
   windows.back().widget->show();
   state.appear();

@@ -11,6 +11,8 @@ namespace vantorel {
 
 namespace {
 
+constexpr int usualTitleBar = 32;  // nobody knows that of the desktop before the window shows
+
 constexpr BilingualText fileText{"&File", "文件(&F)"};
 constexpr BilingualText newWindowText{"&New Window", "新建窗口(&N)"};
 constexpr BilingualText closeWindowText{"&Close Window", "关闭窗口(&C)"};
@@ -31,6 +33,14 @@ MainWindow::MainWindow(WindowState& windowState, Actions windowActions)
   new KeyPickerSheet(state, this);
   resize(sizeHint());  // also where Qt would find that too large for the screen
   updates.follow([this] { refresh(); }, state.localization.currentLanguage());
+}
+
+void MainWindow::fitInto(QSize room) {
+  room.rheight() -= usualTitleBar;
+  const QSize forContent = room - QSize(0, menuBar()->minimumHeight());
+  content->setMinimumSize(content->minimumSize().boundedTo(forContent));
+  pages->updateGeometry();             // tells the window's layout, which would ask only once it is shown
+  resize(sizeHint().boundedTo(room));  // left to itself, Qt would keep it to two thirds of the screen
 }
 
 /// Alt and F10 lead to it.

@@ -31,6 +31,10 @@ class MainWindow : public QMainWindow {
   /// `windowState` outlives the window.
   explicit MainWindow(WindowState& windowState, Actions windowActions);
 
+  /// Takes the size of its content, or as much of that as fits into `room` with a title bar. The content's
+  /// least size gives way where a screen is lower: the page scrolls then.
+  void fitInto(QSize room);
+
   /// Shows `remedy` until the user goes back.
   void showRemedy(const Remedy& remedy);
 

@@ -41,6 +41,25 @@ TEST_F(MainWindowTest, HasItsNameAndASizeForItsContent) {
   EXPECT_EQ(host.content().size(), QSize(1000, 800));
 }
 
+TEST_F(MainWindowTest, FitsOnAScreenThatIsLowerThanItsContent) {
+  MainWindow window(host.state, {[] {}, [] {}, [] {}});
+  window.fitInto({1024, 700});
+  window.show();
+  host.settle();
+  EXPECT_LE(window.height(), 700 - 32) << "the title bar has room as well";
+  EXPECT_EQ(window.width(), 1024);
+  EXPECT_GT(window.contentView()->scrollArea()->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(MainWindowTest, HasItsIdealSizeOnALargeScreen) {
+  MainWindow window(host.state, {[] {}, [] {}, [] {}});
+  window.fitInto({1920, 1080});
+  window.show();
+  host.settle();
+  EXPECT_EQ(window.contentView()->size(), QSize(1100, 800));
+  EXPECT_EQ(window.contentView()->minimumSize(), QSize(1000, 800));
+}
+
 TEST_F(MainWindowTest, AsksTheProgramForWhatItsKeysStandFor) {
   host.key(Qt::Key_N, Qt::ControlModifier);
   EXPECT_THAT(host.requests, ElementsAre("new window"));

@@ -26,6 +26,17 @@ TEST_F(Start, OpensAWindowOfAtLeast1100By800) {
   EXPECT_EQ(program->errorOutput(), "");
 }
 
+class SmallScreen : public WindowTest {
+ protected:
+  SmallScreen() : WindowTest({"-screen", "0", "1024x700x24"}) {}
+};
+
+TEST_F(SmallScreen, HoldsTheWholeWindow) {
+  start();
+  EXPECT_LE(windows.size(window()).height, 700);
+  EXPECT_LE(windows.size(window()).width, 1024);
+}
+
 TEST_F(Start, TheHotKeyFlipsTheMappingWhileAnotherWindowHasTheKeyboard) {
   start();
   XClient client(session.server());
