@@ -25,8 +25,8 @@ using Clock = std::chrono::steady_clock;
 /// Smaller windows are helpers of the toolkit.
 constexpr int smallestMainWindow = 500;
 
-/// Watches for drawing in `created`, unless it is too small. Not later than when it is made: to be watched from
-/// then on counts as drawing for a window that can be seen already.
+/// Watches for drawing in `created`, unless it is too small. Not later than when it is made: to be watched
+/// from then on counts as drawing for a window that can be seen already.
 void watch(const XcbConnection& connection, const xcb_create_notify_event_t& created) {
   if (created.width < smallestMainWindow) return;
   xcb_damage_create(connection.handle(), xcb_generate_id(connection.handle()), created.window,
@@ -38,7 +38,8 @@ void waitForDrawing(const XcbConnection& connection) {
   const auto* const damage = xcb_get_extension_data(connection.handle(), &xcb_damage_id);
   while (const XcbReply<xcb_generic_event_t> event{xcb_wait_for_event(connection.handle())}) {
     const auto type = event->response_type & 0x7FU;
-    if (type == XCB_CREATE_NOTIFY) watch(connection, reinterpret_cast<const xcb_create_notify_event_t&>(*event));
+    if (type == XCB_CREATE_NOTIFY)
+      watch(connection, reinterpret_cast<const xcb_create_notify_event_t&>(*event));
     if (type == static_cast<unsigned>(damage->first_event + XCB_DAMAGE_NOTIFY)) return;
   }
 }
