@@ -31,6 +31,13 @@ int showRunningProgram() {
   return 1;
 }
 
+void describeApplication() {
+  QApplication::setStyle(new RetroStyle);
+  QApplication::setApplicationName("Vantorel");
+  QApplication::setDesktopFileName("vantorel");
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
 }  // namespace
 
 int openWindow(int& argumentCount, char** arguments) {
@@ -38,16 +45,13 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
-  std::jthread fontSearch(
-      [] { FcInit(); });  // needs some milliseconds, as does the connection to the display
+  // Each takes some milliseconds: to read the font configuration, and to connect to the display.
+  std::jthread fontSearch([] { FcInit(); });
   QApplication application(argumentCount, arguments);
   fontSearch.join();
   HeldKeyFilter heldKeys;
   application.installEventFilter(&heldKeys);
-  QApplication::setStyle(new RetroStyle);
-  QApplication::setApplicationName("Vantorel");
-  QApplication::setDesktopFileName("vantorel");
-  QApplication::setQuitOnLastWindowClosed(false);
+  describeApplication();
   try {
     std::unique_ptr<WindowProgram> program;  // calls from outside arrive when it runs
     const RemoteControl remote(
