@@ -27,6 +27,12 @@ constexpr int spacing = 8;  // between the plates, measured without their shadow
 constexpr int headerShadow = 8;
 constexpr int panelShadow = 4;
 
+/// The layout of a plain widget would find its hint by laying all of it out, at a width that it never has.
+class Page : public QWidget {
+ public:
+  QSize sizeHint() const override { return ContentView::idealSize; }
+};
+
 }  // namespace
 
 ContentView::ContentView(WindowState& windowState, QWidget* parent)
@@ -40,7 +46,7 @@ ContentView::ContentView(WindowState& windowState, QWidget* parent)
   setPalette(colors);
   setMinimumSize(leastSize);
   resize(idealSize);
-  scroll->resize(idealSize);  // so that the page is laid out at no other width first
+  scroll->resize(idealSize);
   scroll->setContent(makePage());
   scroll->setFocusPolicy(Qt::ClickFocus);  // its keys scroll while no control has the keyboard
   setFocusProxy(scroll);
@@ -50,7 +56,7 @@ ContentView::ContentView(WindowState& windowState, QWidget* parent)
 }
 
 QWidget* ContentView::makePage() {
-  auto* page = new QWidget;
+  auto* page = new Page;
   auto* column = new QVBoxLayout(page);
   column->setContentsMargins(pagePadding, pagePadding, pagePadding - headerShadow, pagePadding);
   column->setSpacing(0);

@@ -68,6 +68,7 @@ RetroScrollArea::RetroScrollArea(QWidget* parent) : QScrollArea(parent) {
 }
 
 void RetroScrollArea::setContent(QWidget* content) {
+  viewport()->resize(size() - QSize(barWidth, 0));  // so that the content is laid out at no other width first
   setWidget(content);
   content->setAutoFillBackground(false);  // it is turned on above
 }
