@@ -77,7 +77,7 @@ QWidget* JoystickPanel::makeInformationBox() {
 WrappingLabel* JoystickPanel::addInformation(QVBoxLayout& rows, const QColor& color) {
   auto* glyph = new WrappingLabel(monospaced(glyphSize), AppTheme::text(), this);
   glyph->setText(QString::fromUtf8("🕹️"));
-  glyph->setFixedWidth(glyph->sizeHint().width());
+  glyph->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   glyph->setAlignment(Qt::AlignTop);
   auto* text = new WrappingLabel(monospaced(informationSize), color, this);
   auto* row = new QHBoxLayout;
