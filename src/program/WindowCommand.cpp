@@ -10,6 +10,7 @@
 #include "RemoteControl.h"
 #include "RetroStyle.h"
 #include "StandardError.h"
+#include "Typography.h"
 #include "WindowProgram.h"
 
 namespace vantorel {
@@ -33,6 +34,7 @@ int showRunningProgram() {
 
 void describeApplication() {
   QApplication::setStyle(new RetroStyle);
+  QApplication::setFont(monospaced());
   QApplication::setApplicationName("Vantorel");
   QApplication::setDesktopFileName("vantorel");
   QApplication::setQuitOnLastWindowClosed(false);
