@@ -4,6 +4,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <QTimer>
 
 #include "SessionBus.h"
 
@@ -18,7 +19,13 @@ constexpr int patience = 5000;  // ms for an answer
 
 }  // namespace
 
-NotifierHosts::NotifierHosts() : bus(connectToSessionBus()) {
+/// To connect takes some milliseconds, which the first frame of the window should not wait for.
+NotifierHosts::NotifierHosts() : bus(QString()) { QTimer::singleShot(0, this, &NotifierHosts::connectToBus); }
+
+NotifierHosts::~NotifierHosts() { disconnectFrom(bus); }
+
+void NotifierHosts::connectToBus() {
+  bus = connectToSessionBus();
   if (!bus.isConnected()) {
     there = false;
     return;
@@ -33,8 +40,6 @@ NotifierHosts::NotifierHosts() : bus(connectToSessionBus()) {
   }
   ask();
 }
-
-NotifierHosts::~NotifierHosts() { disconnectFrom(bus); }
 
 void NotifierHosts::ask() {
   QDBusMessage call = QDBusMessage::createMethodCall(

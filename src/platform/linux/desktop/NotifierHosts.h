@@ -11,7 +11,7 @@
 namespace vantorel {
 
 /// Watches the session bus for a host of status-notifier items (a panel that shows them). It asks and listens
-/// without ever waiting. Main thread.
+/// without ever waiting, from the first idle turn of the event loop on. Main thread.
 class NotifierHosts : public QObject {
   Q_OBJECT
 
@@ -25,6 +25,7 @@ class NotifierHosts : public QObject {
   const Published<std::optional<bool>>& isThere() const { return there; }
 
  private:
+  void connectToBus();
   Q_SLOT void ask();
   void askAgain();
   void take(std::optional<bool> answer);
