@@ -1,7 +1,8 @@
 #include "AccessibleMenuButton.h"
 
-#include <QAccessibleWidget>
 #include <QVariant>
+
+#include "AccessibleButton.h"
 
 namespace vantorel {
 
@@ -9,10 +10,10 @@ namespace {
 
 constexpr auto menuProperty = "accessibleMenu";
 
-class AccessibleMenuButton : public QAccessibleWidget {
+class AccessibleMenuButton : public AccessibleButton {
  public:
-  AccessibleMenuButton(QPushButton* widget, QMenu* itsMenu)
-      : QAccessibleWidget(widget, QAccessible::ButtonMenu), button(widget), menu(itsMenu) {}
+  AccessibleMenuButton(QPushButton* owner, QMenu* itsMenu)
+      : AccessibleButton(owner, QAccessible::ButtonMenu), menu(itsMenu) {}
 
   int childCount() const override { return 1; }
 
@@ -25,27 +26,12 @@ class AccessibleMenuButton : public QAccessibleWidget {
   }
 
   QAccessible::State state() const override {
-    QAccessible::State state = QAccessibleWidget::state();
+    QAccessible::State state = AccessibleButton::state();
     state.hasPopup = true;
     return state;
   }
 
-  QStringList actionNames() const override {
-    QStringList names = QAccessibleWidget::actionNames();
-    if (button->isEnabled()) names.prepend(pressAction());
-    return names;
-  }
-
-  void doAction(const QString& actionName) override {
-    if (actionName == pressAction()) {
-      button->click();
-    } else {
-      QAccessibleWidget::doAction(actionName);
-    }
-  }
-
  private:
-  QPushButton* button;
   QMenu* menu;
 };
 

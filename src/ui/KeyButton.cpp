@@ -1,9 +1,9 @@
 #include "KeyButton.h"
 
-#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "AccessibleButton.h"
 #include "AppTheme.h"
 #include "PixelGrid.h"
 #include "ReturnKey.h"
@@ -18,32 +18,17 @@ constexpr int focusWidth = 2;
 constexpr double heldOpacity = 0.2;
 
 /// The key as assistive technology sees it: a push button that may be checked, not a check box.
-class AccessibleKey : public QAccessibleWidget {
+class AccessibleKey : public AccessibleButton {
  public:
-  explicit AccessibleKey(KeyButton* owner) : QAccessibleWidget(owner, QAccessible::Button), button(owner) {}
+  explicit AccessibleKey(KeyButton* owner) : AccessibleButton(owner, QAccessible::Button) {}
 
   QAccessible::State state() const override {
-    QAccessible::State result = QAccessibleWidget::state();
+    QAccessible::State result = AccessibleButton::state();
     result.checkable = true;
-    result.checked = button->isChecked();
-    result.pressed = button->isDown();
+    result.checked = shownButton().isChecked();
+    result.pressed = shownButton().isDown();
     return result;
   }
-
-  QStringList actionNames() const override {
-    return QStringList(pressAction()) + QAccessibleWidget::actionNames();
-  }
-
-  void doAction(const QString& name) override {
-    if (name == pressAction()) {
-      button->click();
-    } else {
-      QAccessibleWidget::doAction(name);
-    }
-  }
-
- private:
-  KeyButton* button;
 };
 
 QAccessibleInterface* accessibleKey(const QString& /*className*/, QObject* object) {
