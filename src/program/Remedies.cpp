@@ -26,4 +26,16 @@ Remedy remedyForMissingExtension() {
        QStringLiteral("请在 X 服务器的配置中启用 XTEST 扩展，或去掉禁用它的启动选项，然后重新登录。")}};
 }
 
+Remedy remedyForMissingBrowser(const std::string& address) {
+  const QString page = QString::fromStdString(address);
+  return {
+      {QStringLiteral("This desktop could not open ") + page,
+       QStringLiteral("The page is shown by a web browser, and the desktop found none to start."),
+       QStringLiteral("Install a web browser or choose one in the desktop's settings and try again, or open "
+                      "the address yourself.")},
+      {QStringLiteral("此桌面无法打开 ") + page,
+       QStringLiteral("该页面由浏览器显示，但桌面没有找到可以启动的浏览器。"),
+       QStringLiteral("请安装浏览器，或在桌面设置中选择浏览器后重试；也可以自己打开该地址。")}};
+}
+
 }  // namespace vantorel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "Remedy.h"
 
 namespace vantorel {
@@ -9,5 +11,8 @@ Remedy remedyForMissingXServer();
 
 /// For an X server without the extension that events are posted through.
 Remedy remedyForMissingExtension();
+
+/// For a desktop without a browser that `address` could be opened in.
+Remedy remedyForMissingBrowser(const std::string& address);
 
 }  // namespace vantorel

@@ -18,7 +18,8 @@ WindowProgram::WindowProgram(LinuxMachine::Injection injection)
               }),
       statusBar(machine.mainQueue()),
       application(statusBar),
-      workspace([this] { showRemedy(); }),
+      workspace({[this] { showRemedy(hasXServer ? remedyForMissingExtension() : remedyForMissingXServer()); },
+                 [this](const std::string& address) { showRemedy(remedyForMissingBrowser(address)); }}),
       platform(machine.platform(statusBar, application, workspace)),
       app(platform) {}
 
@@ -60,11 +61,11 @@ void WindowProgram::showWindow() {
 }
 
 /// In the window that asked for it: the active one, or that opened last.
-void WindowProgram::showRemedy() {
+void WindowProgram::showRemedy(const Remedy& remedy) {
   const auto active = std::find_if(windows.begin(), windows.end(),
                                    [](const Window& window) { return window.widget->isActiveWindow(); });
   const Window& asking = active == windows.end() ? windows.back() : *active;
-  asking.widget->showRemedy(hasXServer ? remedyForMissingExtension() : remedyForMissingXServer());
+  asking.widget->showRemedy(remedy);
 }
 
 /// "Show Window" leaves the mode; that would help nobody while every window is closed.

@@ -41,7 +41,7 @@ class WindowProgram {
 
   void openWindow();
   void closed(const WindowState& state);
-  void showRemedy();
+  void showRemedy(const Remedy& remedy);
   void menuBarModeChanged();
 
   const bool hasXServer;

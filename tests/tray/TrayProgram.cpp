@@ -75,7 +75,8 @@ class TrayProgram {
   QtMainQueue queue;
   QtStatusBar bar{queue};
   QtApplication application{bar};
-  DesktopWorkspace workspace{[] { say("settings opened"); }};
+  DesktopWorkspace workspace{
+      {[] { say("settings opened"); }, [](const std::string& address) { say("cannot open " + address); }}};
   std::unique_ptr<StatusItem> item;
   std::map<std::string, std::unique_ptr<QWidget>> windows;
   Subscription presence;

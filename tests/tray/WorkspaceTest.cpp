@@ -47,6 +47,7 @@ TEST_F(WorkspaceTest, LeadsAddressesOfTheSystemSettingsToTheProgramsOwnPage) {
 TEST_F(WorkspaceTest, TellsInOneLineWhatItCannotOpen) {
   startProgram({pathWithOpener()});
   tell("open file:///etc/passwd");
+  EXPECT_TRUE(hasSaid("cannot open file:///etc/passwd"));
   EXPECT_EQ(program->errorOutput(), "vantorel: cannot open file:///etc/passwd\n");
   EXPECT_EQ(opened(), "");
 }

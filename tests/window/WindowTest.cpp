@@ -26,9 +26,10 @@ void WindowTest::TearDown() {
   }
 }
 
-void WindowTest::start() {
-  program = std::make_unique<Process>(VANTOREL_PROGRAM, std::vector<std::string>{},
-                                      joined(session.environment(), {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1"}));
+void WindowTest::start(const std::vector<std::string>& environment) {
+  const auto usual = joined(session.environment(), {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1"});
+  program =
+      std::make_unique<Process>(VANTOREL_PROGRAM, std::vector<std::string>{}, joined(usual, environment));
   require("the window in front", [&] { return isInFront(); });
   require("the hot key", [&] { return outputCount("热键已注册") == 1; });
 }

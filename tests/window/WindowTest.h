@@ -26,8 +26,9 @@ class WindowTest : public testing::Test {
   /// Ends the program as a session does, if the test left it running.
   void TearDown() override;
 
-  /// Starts the program and waits until its window has the keyboard and the hot key is there.
-  void start();
+  /// Starts the program, with `environment` besides the usual, and waits until its window has the keyboard
+  /// and the hot key is there.
+  void start(const std::vector<std::string>& environment = {});
 
   /// Starts the program a second time with `arguments` and returns its exit status.
   int startAgain(const std::vector<std::string>& arguments = {});

@@ -18,15 +18,16 @@ bool openInBrowser(const std::string& address) {
 
 }  // namespace
 
-DesktopWorkspace::DesktopWorkspace(std::function<void()> openSettings)
-    : openRemedy(std::move(openSettings)) {}
+DesktopWorkspace::DesktopWorkspace(Handlers programHandlers) : handlers(std::move(programHandlers)) {}
 
 void DesktopWorkspace::open(const std::string& address) {
   if (address.rfind(settingsScheme, 0) == 0) {
-    if (openRemedy) openRemedy();
+    handlers.openSettings();
     return;
   }
-  if (!openInBrowser(address)) std::cerr << "vantorel: cannot open " << address << std::endl;
+  if (openInBrowser(address)) return;
+  std::cerr << "vantorel: cannot open " << address << std::endl;
+  handlers.cannotOpen(address);
 }
 
 }  // namespace vantorel

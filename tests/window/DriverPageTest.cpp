@@ -1,0 +1,19 @@
+// The way to the driver's page on a desktop without a browser.
+
+#include "WindowTest.h"
+
+namespace vantorel::test {
+namespace {
+
+using WithoutBrowser = WindowTest;
+
+TEST_F(WithoutBrowser, TheAddressShowsInTheWindow) {
+  start({"PATH=/nonexistent"});
+  readScreen({"press push button: DOWNLOAD_DRIVER", "see label: WHAT_IS_MISSING",
+              "see label: This desktop could not open "
+              "https://github.com/360Controller/360Controller/releases/tag/v0.16.11",
+              "press push button: BACK", "see push button: DOWNLOAD_DRIVER", "miss label: WHAT_IS_MISSING"});
+}
+
+}  // namespace
+}  // namespace vantorel::test
