@@ -56,7 +56,7 @@ class Headless : public ::testing::Test {
   std::unique_ptr<Process> process;
 };
 
-TEST_F(Headless, ButtonBArrivesAsEscapeTwiceAndStaysDownEachTime) {
+TEST_F(Headless, ButtonBArrivesAsEscapeTwiceAndStaysDownFiftyMilliseconds) {
   start();
   session.pads("button pad buttonB 1");
   ASSERT_TRUE(waitUntil([&] { return client.count(Kind::keyUp, escapeKey) == 2; })) << process->output();
@@ -67,10 +67,9 @@ TEST_F(Headless, ButtonBArrivesAsEscapeTwiceAndStaysDownEachTime) {
   EXPECT_EQ(events[1].kind, Kind::keyUp);
   EXPECT_EQ(events[2].kind, Kind::keyDown);
   EXPECT_EQ(events[3].kind, Kind::keyUp);
-  // 50 ms as the program counts. The server notes when it comes to an event, which a busy machine delays.
-  constexpr unsigned surelyHeld = 25;
-  EXPECT_GE(events[1].time - events[0].time, surelyHeld);
-  EXPECT_GE(events[3].time - events[2].time, surelyHeld);
+  // The server's clock counts whole milliseconds, so that 50 ms may show as 49.
+  EXPECT_GE(events[1].time - events[0].time, 49U);
+  EXPECT_GE(events[3].time - events[2].time, 49U);
 }
 
 TEST_F(Headless, ButtonAArrivesAsSpaceOnce) {

@@ -65,7 +65,7 @@ void XTestEventPoster::post(const KeyboardEvent& event) {
   if (!key) return;
   const std::lock_guard lock(mutex);
   setKey(*key, event.isDown);
-  connection.flush();
+  connection.sync();  // a busy server must not cut the time short that the key is held
 }
 
 void XTestEventPoster::post(const MouseEvent& event) {
