@@ -32,21 +32,11 @@ void WindowState::watch() {
                            [this](bool enabled) { joystickSwitched(enabled); });
   reactions.onChange<bool>([this] { return menuBarManager.isMenuBarMode.get(); },
                            [this](bool on) { menuBarModeSwitched(on); });
-  menuBarModeObservation = menuBarManager.isMenuBarMode.observe([this] { settleLater(); });
-}
-
-/// Another window has changed what all windows share, and has done what follows from it.
-void WindowState::settleLater() {
-  if (isPerforming) return;
-  services.mainQueue.post(lifetime.guard([this] {
-    isFollowing = true;
-    perform([] {});
-    isFollowing = false;
-  }));
 }
 
 void WindowState::perform(const std::function<void()>& action) {
   const bool isNested = std::exchange(isPerforming, true);
+  if (!isNested) reactions.begin();  // another window may have changed what all share, and reacted to it
   action();
   if (isNested) return;
   reactions.settle();
@@ -144,7 +134,6 @@ void WindowState::joystickSwitched(bool enabled) {
 }
 
 void WindowState::menuBarModeSwitched(bool on) {
-  if (isFollowing) return;
   if (on) {
     menuBarManager.setupMenuBar(isEnabled, menuBarActions());
     menuBarManager.hideFromDock();

@@ -73,7 +73,6 @@ class WindowState {
  private:
   void watch();
   void perform(const std::function<void()>& action);
-  void settleLater();
   void mappingSwitched(bool enabled);
   void mappingsChanged(const std::vector<ButtonMapping>& mappings);
   void joystickSwitched(bool enabled);
@@ -83,8 +82,6 @@ class WindowState {
   Platform& services;
   Reactions reactions;
   bool isPerforming = false;
-  bool isFollowing = false;  ///< it catches up with a change of another window
-  Subscription menuBarModeObservation;
   Lifetime lifetime;
 };
 

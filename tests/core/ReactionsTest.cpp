@@ -29,6 +29,20 @@ TEST(Reactions, DoNotRunWhenTheValueIsBackWhereItWas) {
   EXPECT_EQ(calls, 0);
 }
 
+TEST(Reactions, DoNotRunForWhatChangedBeforeTheAction) {
+  Reactions reactions;
+  int shared = 1;
+  int own = 1;
+  std::vector<int> seen;
+  reactions.onChange<int>([&] { return shared; }, [&](int now) { seen.push_back(now); });
+  reactions.onChange<int>([&] { return own; }, [&](int now) { seen.push_back(now); });
+  shared = 2;
+  reactions.begin();
+  own = 3;
+  reactions.settle();
+  EXPECT_EQ(seen, (std::vector<int>{3}));
+}
+
 TEST(Reactions, FollowOnWhatAReactionChanges) {
   Reactions reactions;
   bool first = false;

@@ -326,9 +326,10 @@ TEST_F(Window, MenuBarModeEndsForAllWhenOneLeavesIt) {
 }
 
 TEST_F(Window, TheStatusMenuActsOnTheOneWhereTheModeWasSwitchedOn) {
-  const WindowState& first = open();
+  WindowState& first = open();
   WindowState& second = open();
   second.setMenuBarMode(true);
+  first.openKeyPicker(GamepadButton::buttonA);
   machine.settle();
   EXPECT_THAT(machine.take(), ElementsAre("status item created", inactiveMenu, "policy accessory"));
   chooseMenuItem("Enable Mapping");
