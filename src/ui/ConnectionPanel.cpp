@@ -24,15 +24,11 @@ QString nameOf(GamepadButton button, AppLanguage language) {
   return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
-/// The longest lines that can come, so that none takes more room than another.
-QStringList longestInputLines() {
-  QStringList longest;
-  for (const AppLanguage language : allAppLanguages()) {
-    QStringList lines;
-    for (const GamepadButton button : allGamepadButtons()) lines += inputLine(nameOf(button, language));
-    longest += longestOf(lines);
-  }
-  return longest;
+/// All lines that can come, so that room for the longest is kept.
+QStringList inputLines(AppLanguage language) {
+  QStringList lines;
+  for (const GamepadButton button : allGamepadButtons()) lines += inputLine(nameOf(button, language));
+  return lines;
 }
 
 }  // namespace
@@ -47,10 +43,9 @@ ConnectionPanel::ConnectionPanel(WindowState& windowState, QWidget* parent)
   device = addLine();
   addSpace();
   input = addLine(QFont::Bold);
-  input->reserveFor(longestInputLines());
+  input->reserveFor(longestInEach(inputLines));
   device->reserveLines(linesOfName);
-  status->reserveFor({online.in(AppLanguage::english), online.in(AppLanguage::chinese),
-                      disconnected.in(AppLanguage::english)});
+  status->reserveFor(online.inBoth() + disconnected.inBoth());
   const GameControllerManager& manager = state.controllerManager;
   follow([this] { refresh(); }, manager.isControllerConnected, manager.connectedControllerName,
          manager.lastButtonPressed);

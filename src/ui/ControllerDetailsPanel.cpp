@@ -41,38 +41,29 @@ QString lastKeyLine(AppLanguage language, std::optional<KeyboardKey> key) {
   return line(language, lastKeyName, key ? textOf(displayName(*key, language)) : QStringLiteral("---"));
 }
 
-// The longest lines that can come, so that none takes more room than another.
+// All lines that can come, so that room for the longest is kept.
 
-QStringList longestFamilyLines() {
-  QStringList longest;
-  for (const AppLanguage language : allAppLanguages()) {
-    QStringList lines;
-    for (const auto type : {ControllerType::unknown, ControllerType::xbox, ControllerType::ps4,
-                            ControllerType::ps5, ControllerType::switchPro}) {
-      lines += familyLine(language, type);
-    }
-    longest += longestOf(lines);
+QStringList familyLines(AppLanguage language) {
+  QStringList lines;
+  for (const auto type : {ControllerType::unknown, ControllerType::xbox, ControllerType::ps4,
+                          ControllerType::ps5, ControllerType::switchPro}) {
+    lines += familyLine(language, type);
   }
-  return longest;
+  return lines;
 }
 
-QStringList longestLastKeyLines() {
-  QStringList longest;
-  for (const AppLanguage language : allAppLanguages()) {
-    QStringList lines;
-    for (const KeyboardKey key : allKeyboardKeys()) lines += lastKeyLine(language, key);
-    longest += longestOf(lines);
-  }
-  return longest;
+QStringList lastKeyLines(AppLanguage language) {
+  QStringList lines;
+  for (const KeyboardKey key : allKeyboardKeys()) lines += lastKeyLine(language, key);
+  return lines;
 }
 
-QStringList longestAnswerLines(const BilingualText& name) {
-  QStringList longest;
-  for (const AppLanguage language : allAppLanguages()) {
-    longest += longestOf(
-        {line(language, name, answer(language, true)), line(language, name, answer(language, false))});
-  }
-  return longest;
+/// The lines of a name and an answer.
+auto answerLines(const BilingualText& name) {
+  return [name](AppLanguage language) {
+    return QStringList{line(language, name, answer(language, true)),
+                       line(language, name, answer(language, false))};
+  };
 }
 
 }  // namespace
@@ -89,10 +80,10 @@ ControllerDetailsPanel::ControllerDetailsPanel(WindowState& windowState, QWidget
   probe = addButton(AppTheme::secondaryAccent(), [this] { state.startProbe(); });
   tag->setText(QString::fromUtf8(tagText));
   probe->setText(QString::fromUtf8(probeText));
-  extended->reserveFor(longestAnswerLines(extendedName));
-  driver->reserveFor(longestAnswerLines(driverName));
-  lastKey->reserveFor(longestLastKeyLines());
-  family->reserveFor(longestFamilyLines());
+  extended->reserveFor(longestInEach(answerLines(extendedName)));
+  driver->reserveFor(longestInEach(answerLines(driverName)));
+  lastKey->reserveFor(longestInEach(lastKeyLines));
+  family->reserveFor(longestInEach(familyLines));
   type->reserveLines(linesOfType);
   const GameControllerManager& manager = state.controllerManager;
   follow([this] { refresh(); }, manager.gamepadType, manager.isExtendedGamepad,

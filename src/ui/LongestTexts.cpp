@@ -28,4 +28,10 @@ QStringList longestOf(const QStringList& texts) {
   return longest;
 }
 
+QStringList longestInEach(const std::function<QStringList(AppLanguage language)>& textsIn) {
+  QStringList longest;
+  for (const AppLanguage language : allAppLanguages()) longest += longestOf(textsIn(language));
+  return longest;
+}
+
 }  // namespace vantorel

@@ -15,6 +15,13 @@ TEST(LongestTexts, TakesAChineseCharacterForWiderThanALetter) {
   EXPECT_EQ(longestOf({"abc", "空格", "Tab", "（）"}), QStringList({"空格", "（）"}));
 }
 
+TEST(LongestTexts, KeepsTheLongestOfEachLanguage) {
+  const auto texts = [](AppLanguage language) {
+    return language == AppLanguage::english ? QStringList{"Enter", "Tab"} : QStringList{"空格", "键"};
+  };
+  EXPECT_EQ(longestInEach(texts), QStringList({"Enter", "空格"}));
+}
+
 TEST(LongestTexts, HasNothingToKeepOfNothing) { EXPECT_EQ(longestOf({}), QStringList()); }
 
 }  // namespace

@@ -27,6 +27,17 @@ TEST(RetroSlider, StandsOnTheGridFromItsLowestNumber) {
   EXPECT_EQ(static_cast<float>(slider.decimalValue()), 0.05F);
 }
 
+TEST(RetroSlider, HasAGrooveAsWideAsItself) {
+  RetroSlider slider(1, 10, 0.5);
+  slider.resize(118, 22);
+  slider.setDecimalValue(5);
+  const QImage picture = rendered(slider);
+  EXPECT_EQ(picture.pixelColor(0, 11), AppTheme::borderColor());
+  EXPECT_EQ(picture.pixelColor(1, 11), AppTheme::secondaryAccent());
+  EXPECT_EQ(picture.pixelColor(116, 11), AppTheme::background());
+  EXPECT_EQ(picture.pixelColor(117, 11), AppTheme::borderColor());
+}
+
 TEST(RetroSlider, MovesByOneStepWithTheArrowKeysAndToItsEnds) {
   RetroSlider slider(1, 10, 0.5);
   slider.setDecimalValue(3);
