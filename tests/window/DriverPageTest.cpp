@@ -15,5 +15,17 @@ TEST_F(WithoutBrowser, TheAddressShowsInTheWindow) {
               "press push button: BACK", "see push button: DOWNLOAD_DRIVER", "miss label: WHAT_IS_MISSING"});
 }
 
+TEST_F(WithoutBrowser, TheAddressShowsInTheWindowThatAskedForIt) {
+  start({"PATH=/nonexistent"});
+  const xcb_window_t first = window();
+  screen.press({XK_Control_L, XK_n});
+  require("the second window", [&] { return windowCount() == 2 && windows.active() != first; });
+  windows.minimise(windows.active());
+  require("the first window again", [&] { return windows.active() == first; });
+  screen.press({XK_Tab});
+  readScreen({"focus push button: Language: English", "press push button: DOWNLOAD_DRIVER",
+              "focus push button: BACK"});
+}
+
 }  // namespace
 }  // namespace vantorel::test
