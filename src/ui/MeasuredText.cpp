@@ -30,4 +30,9 @@ double MeasuredText::widestPart() const {
   return *widest;
 }
 
+const MeasuredText& upToDate(std::optional<MeasuredText>& kept, const QString& text, const QFont& font) {
+  if (!kept || !kept->isOf(text, font)) kept.emplace(text, font);
+  return *kept;
+}
+
 }  // namespace vantorel

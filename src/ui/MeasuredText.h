@@ -36,4 +36,7 @@ class MeasuredText {
   mutable std::optional<double> widest;
 };
 
+/// `kept`, measured anew where it is not of `text` in `font`.
+const MeasuredText& upToDate(std::optional<MeasuredText>& kept, const QString& text, const QFont& font);
+
 }  // namespace vantorel

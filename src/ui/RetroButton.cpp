@@ -73,11 +73,6 @@ int RetroButton::heightForWidth(int width) const {
   return sizeAround(room, measured().heightIn(room)).height();
 }
 
-const MeasuredText& RetroButton::measured() const {
-  if (!measurement || !measurement->isOf(text(), font())) measurement.emplace(text(), font());
-  return *measurement;
-}
-
 QSize RetroButton::sizeHint() const {
   const int width = sizeAround(measured().unbrokenWidth(), 0).width();
   return {width, heightForWidth(width)};

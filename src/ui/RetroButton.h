@@ -35,7 +35,7 @@ class RetroButton : public QPushButton {
  private:
   int symbolRoom() const;
   QSize sizeAround(double textWidth, double textHeight) const;
-  const MeasuredText& measured() const;
+  const MeasuredText& measured() const { return upToDate(measurement, text(), font()); }
   QColor currentFill() const;
   void paintLabel(QPainter& painter, const QRectF& area) const;
 

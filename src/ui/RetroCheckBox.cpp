@@ -48,11 +48,6 @@ int RetroCheckBox::heightForWidth(int width) const {
   return sizeAround(room, measured().heightIn(room)).height();
 }
 
-const MeasuredText& RetroCheckBox::measured() const {
-  if (!measurement || !measurement->isOf(text(), font())) measurement.emplace(text(), font());
-  return *measurement;
-}
-
 QSize RetroCheckBox::sizeHint() const {
   const int width = sizeAround(measured().unbrokenWidth(), 0).width();
   return {width, heightForWidth(width)};

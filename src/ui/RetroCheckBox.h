@@ -27,7 +27,7 @@ class RetroCheckBox : public QCheckBox {
 
  private:
   QSize sizeAround(double textWidth, double textHeight) const;
-  const MeasuredText& measured() const;
+  const MeasuredText& measured() const { return upToDate(measurement, text(), font()); }
 
   mutable std::optional<MeasuredText> measurement;
 };

@@ -151,7 +151,9 @@ TEST_F(JoystickPanelTest, FramesItsInformationThinlyOnAFadedGround) {
   EXPECT_EQ(runLength(picture, middle, {1, 0}), 1);
   EXPECT_TRUE(isNearly(picture.pixelColor(middle + QPoint(2, 0)),
                        blended(AppTheme::background(), 0.5, AppTheme::cardBackground())));
-  EXPECT_EQ(picture.pixelColor(middle - QPoint(1, 0)), AppTheme::cardBackground()) << "no shadow";
+  const QPoint end = middle + QPoint(box.width() - 1, 0);
+  EXPECT_EQ(picture.pixelColor(end), AppTheme::borderColor()) << "no room for a shadow";
+  EXPECT_EQ(picture.pixelColor(end + QPoint(1, 0)), AppTheme::cardBackground());
 }
 
 }  // namespace
