@@ -3,12 +3,12 @@
 #include <functional>
 #include <optional>
 
+#include "LinuxGameControllers.h"
 #include "NoInjection.h"
 #include "Platform.h"
 #include "ProcessOutput.h"
 #include "QtMainQueue.h"
 #include "QtTimers.h"
-#include "SdlGameControllers.h"
 #include "SettingsFile.h"
 #include "SystemClock.h"
 #include "SystemFileManager.h"
@@ -38,7 +38,7 @@ class LinuxMachine {
   SystemClock clock;
   ProcessOutput output;
   SystemFileManager fileManager;
-  SdlGameControllers controllers;  ///< early: it looks for pads on a thread of its own meanwhile
+  LinuxGameControllers controllers;  ///< early: it looks for pads on a thread of its own meanwhile
   SettingsFile settings;
   NoInjection noInjection;
   std::optional<X11Injection> x11;

@@ -3,17 +3,17 @@
 
 #include "Commands.h"
 #include "ControllerType.h"
+#include "LinuxController.h"
+#include "LinuxGameControllers.h"
 #include "QtArguments.h"
 #include "QtMainQueue.h"
-#include "SdlController.h"
-#include "SdlGameControllers.h"
 
 namespace vantorel {
 namespace {
 
 std::string orDash(const std::string& text) { return text.empty() ? "-" : text; }
 
-void print(SdlController& controller) {
+void print(LinuxController& controller) {
   const ControllerFacts facts = controller.facts();
   std::cout << "name: " << orDash(facts.name) << "  category: " << orDash(facts.category)
             << "  family: " << displayText(identifyControllerType(controller))
@@ -26,9 +26,9 @@ int listControllers() {
   QtArguments arguments;
   const QCoreApplication application(arguments.count, arguments.values.data());
   QtMainQueue queue;
-  SdlGameControllers service(queue);
-  const auto controllers = service.controllers();
-  for (const auto& controller : controllers) print(dynamic_cast<SdlController&>(*controller));
+  LinuxGameControllers service(queue);
+  const auto& controllers = service.linuxControllers();
+  for (const auto& controller : controllers) print(*controller);
   if (controllers.empty()) std::cerr << "No controller is connected.\n";
   return 0;
 }

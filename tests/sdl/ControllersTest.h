@@ -7,9 +7,10 @@
 #include <future>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "CollectingQueue.h"
-#include "SdlGameControllers.h"
+#include "LinuxGameControllers.h"
 #include "VirtualPads.h"
 
 namespace vantorel::test {
@@ -21,18 +22,21 @@ class ControllersTest : public testing::Test {
   ControllersTest() {
     unsetenv("VANTOREL_VIRTUAL_PADS");
     unsetenv("SDL_GAMECONTROLLERCONFIG");
+    unsetenv("SDL_JOYSTICK_DEVICE");
   }
   ~ControllersTest() override { stop(); }
 
-  void start() { service_ = std::make_unique<SdlGameControllers>(queue_); }
+  void start(PadPlaces places = {}) {
+    service_ = std::make_unique<LinuxGameControllers>(queue_, std::move(places));
+  }
 
   void stop() {
     if (!service_) return;
-    onSdlThread([this] { pads_.reset(); });
+    if (pads_) onSdlThread([this] { pads_.reset(); });
     service_.reset();
   }
 
-  SdlGameControllers& service() {
+  LinuxGameControllers& service() {
     if (!service_) start();
     return *service_;
   }
@@ -54,15 +58,15 @@ class ControllersTest : public testing::Test {
   }
 
   /// The listed controller of that name; null without one.
-  std::shared_ptr<SdlController> find(const std::string& name) {
-    for (const auto& controller : service().sdlControllers()) {
+  std::shared_ptr<LinuxController> find(const std::string& name) {
+    for (const auto& controller : service().linuxControllers()) {
       if (controller->vendorName() == name) return controller;
     }
     return nullptr;
   }
 
   /// Plugs in a virtual pad and takes notice of it.
-  std::shared_ptr<SdlController> attach(const std::string& name, const std::string& ids = "") {
+  std::shared_ptr<LinuxController> attach(const std::string& name, const std::string& ids = "") {
     play("attach \"" + name + "\" " + ids);
     queue_.run();
     return find(name);
@@ -71,7 +75,7 @@ class ControllersTest : public testing::Test {
   CollectingQueue queue_;
 
  private:
-  std::unique_ptr<SdlGameControllers> service_;
+  std::unique_ptr<LinuxGameControllers> service_;
   std::unique_ptr<VirtualPads> pads_;  // SDL's thread
 };
 

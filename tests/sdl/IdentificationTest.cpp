@@ -1,3 +1,5 @@
+#include <SDL.h>
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -12,10 +14,10 @@ namespace {
 class Identification : public ControllersTest {
  protected:
   /// Plugs in a pad with those buttons and axes alone.
-  std::shared_ptr<SdlController> attachWith(const std::string& name,
-                                            const std::vector<SDL_GameControllerButton>& buttons,
-                                            const std::vector<SDL_GameControllerAxis>& axes,
-                                            SDL_JoystickType type = SDL_JOYSTICK_TYPE_GAMECONTROLLER) {
+  std::shared_ptr<LinuxController> attachWith(const std::string& name,
+                                              const std::vector<SDL_GameControllerButton>& buttons,
+                                              const std::vector<SDL_GameControllerAxis>& axes,
+                                              SDL_JoystickType type = SDL_JOYSTICK_TYPE_GAMECONTROLLER) {
     SDL_VirtualJoystickDesc description{};
     description.version = SDL_VIRTUAL_JOYSTICK_DESC_VERSION;
     description.type = static_cast<Uint16>(type);

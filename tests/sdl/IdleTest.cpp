@@ -25,22 +25,35 @@ std::uint64_t timesAsleep(const std::string& name) {
   return sum;
 }
 
-class Idle : public ControllersTest {};
+class Idle : public ControllersTest {
+ protected:
+  /// Whether nothing wakes the thread. Devices of the machine may stir, so one quiet stretch among several is
+  /// what must be found.
+  bool isQuiet() {
+    return waitUntil([&] {
+      const std::uint64_t wakeUps = service().wakeUps();
+      const std::uint64_t sleeps = timesAsleep("controllers");
+      std::this_thread::sleep_for(std::chrono::milliseconds(500));
+      return service().wakeUps() == wakeUps && timesAsleep("controllers") == sleeps;
+    });
+  }
+};
 
 TEST_F(Idle, NothingWakesTheThreadWhileNothingHappens) {
   attach("one");
   attach("two");
   play("button one buttonA 1");
   play("axis two leftx 32767");
-  // Devices of the machine may stir, so one quiet stretch among several is what must be found.
-  const bool isQuiet = waitUntil([&] {
-    const std::uint64_t wakeUps = service().wakeUps();
-    const std::uint64_t sleeps = timesAsleep("controllers");
-    std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    return service().wakeUps() == wakeUps && timesAsleep("controllers") == sleeps;
-  });
-  EXPECT_TRUE(isQuiet);
+  EXPECT_TRUE(isQuiet());
   EXPECT_GT(timesAsleep("controllers"), 0U);
+}
+
+TEST_F(Idle, NothingWakesTheThreadWhileSdlIsNotNeeded) {
+  start({.nodes = "/nowhere", .udevControl = "/nowhere"});
+  service().controllers();
+  EXPECT_TRUE(isQuiet());
+  EXPECT_GT(timesAsleep("controllers"), 0U);
+  EXPECT_FALSE(service().isSdlWanted());
 }
 
 TEST_F(Idle, AWakeUpIsAllItTakesForSdlToLook) {

@@ -8,8 +8,8 @@
 
 #include "ConnectionOrder.h"
 #include "ControllerCategory.h"
+#include "LinuxController.h"
 #include "SdlButtons.h"
-#include "SdlController.h"
 #include "StickDeflection.h"
 #include "TemporaryDirectory.h"
 #include "TriggerTravel.h"
@@ -91,12 +91,12 @@ TEST(ConnectionOrder, PutsWhatIsNoDeviceLast) {
   EXPECT_EQ(connectionOrder("", directory.path()), std::numeric_limits<std::uint64_t>::max());
 }
 
-TEST(SdlController, WithoutANameHasNoVendorName) {
-  SdlController controller({.name = std::nullopt,
-                            .category = "Gamepad",
-                            .node = "/dev/input/event5",
-                            .profile = ControllerProfile::micro,
-                            .buttons = {}});
+TEST(LinuxController, WithoutANameHasNoVendorName) {
+  LinuxController controller({.name = std::nullopt,
+                              .category = "Gamepad",
+                              .node = "/dev/input/event5",
+                              .profile = ControllerProfile::micro,
+                              .buttons = {}});
   EXPECT_EQ(controller.vendorName(), std::nullopt);
   EXPECT_TRUE(controller.hasMicroGamepad());
   EXPECT_EQ(controller.extendedGamepad(), nullptr);

@@ -17,7 +17,7 @@ class States : public ControllersTest {
     play("axis pad triggerleft " + std::to_string(travel * 2 - 32768 + (travel > 0 ? 1 : 0)));
   }
 
-  std::shared_ptr<SdlController> pad;
+  std::shared_ptr<LinuxController> pad;
   std::shared_ptr<ExtendedGamepad> gamepad;
 };
 

@@ -6,9 +6,6 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
-#include <utility>
-
-#include "ConnectionOrder.h"
 
 namespace vantorel {
 namespace {
@@ -20,37 +17,30 @@ constexpr std::chrono::milliseconds secondLookDelay(30);
 
 }  // namespace
 
-SdlLoop::SdlLoop(CommandQueue& commands, PadEvents events)
-    : commands_(commands), events_(std::move(events)) {}
-
-std::vector<std::shared_ptr<SdlController>> SdlLoop::firstScan() {
-  std::vector<std::shared_ptr<SdlController>> found;
-  PadEvents events = events_;
-  events.connected = [&](const std::shared_ptr<SdlController>& controller) { found.push_back(controller); };
+void SdlLoop::look(const PadEvents& events) {
   pads_.update(events);
   carryOutLines(events);
-  std::stable_sort(found.begin(), found.end(), [](const auto& one, const auto& other) {
-    return connectionOrder(one->node()) < connectionOrder(other->node());
-  });
-  return found;
+  lookAgainSoon();  // a pad that is just being plugged in has called for SDL, perhaps
 }
 
 void SdlLoop::turn() {
   sleep();
   const bool isPadGoing = !pads_.drainNodes();
-  if (monitor_.drain() || isPadGoing) {
-    secondLook_ = Clock::now() + secondLookDelay;
+  if (context_.monitor.drain() || isPadGoing) {
+    lookAgainSoon();
   } else if (secondLook_ && *secondLook_ <= Clock::now()) {
     secondLook_.reset();
   }
-  pads_.update(events_);
+  pads_.update(context_.events);
   carryOutCommands();
-  carryOutLines(events_);
+  carryOutLines(context_.events);
 }
 
+void SdlLoop::lookAgainSoon() { secondLook_ = Clock::now() + secondLookDelay; }
+
 void SdlLoop::sleep() {
-  std::vector<pollfd> watched{{commands_.descriptor(), POLLIN, 0}, {pipe_.descriptor(), POLLIN, 0}};
-  for (const int descriptor : monitor_.descriptors()) watched.push_back({descriptor, POLLIN, 0});
+  std::vector<pollfd> watched{{context_.commands.descriptor(), POLLIN, 0}, {pipe_.descriptor(), POLLIN, 0}};
+  for (const int descriptor : context_.monitor.descriptors()) watched.push_back({descriptor, POLLIN, 0});
   pads_.addTo(watched);
   int timeout = -1;
   if (secondLook_) {
@@ -61,10 +51,15 @@ void SdlLoop::sleep() {
 }
 
 void SdlLoop::carryOutCommands() {
-  while (const CommandQueue::Command command = commands_.pop()) {
-    command();
-    pads_.update(events_);
-  }
+  CommandQueue::Command command;
+  do {
+    command = context_.commands.pop();
+    session_.setMonitorsBackground(context_.monitorsBackground.load());  // as it was when `command` came
+    if (command) {
+      command();
+      pads_.update(context_.events);
+    }
+  } while (command);
 }
 
 void SdlLoop::carryOutLines(const PadEvents& events) {

@@ -1,13 +1,9 @@
 #pragma once
 
 #include <chrono>
-#include <memory>
 #include <optional>
-#include <vector>
 
-#include "CommandQueue.h"
-#include "DeviceMonitor.h"
-#include "SdlController.h"
+#include "PadLoop.h"
 #include "SdlPads.h"
 #include "SdlSession.h"
 #include "VirtualPadPipe.h"
@@ -17,27 +13,22 @@ namespace vantorel {
 
 /// What SDL's thread does: sleep until a file descriptor has news, and let SDL look. Nothing is ever asked on
 /// the chance that it may have changed.
-class SdlLoop {
+class SdlLoop final : public PadLoop {
  public:
   /// Starts SDL. Throws std::runtime_error when that fails.
-  SdlLoop(CommandQueue& commands, PadEvents events);
+  explicit SdlLoop(const PadLoopContext& context) : context_(context) {}
 
-  /// Finds the pads that are already there, the one connected first in front; `connected` is not called for
-  /// them.
-  std::vector<std::shared_ptr<SdlController>> firstScan();
-
-  /// Sleeps until something happens and carries it out.
-  void turn();
+  void look(const PadEvents& events) override;
+  void turn() override;
 
  private:
   void sleep();
+  void lookAgainSoon();
   void carryOutCommands();
   void carryOutLines(const PadEvents& events);
 
-  const SdlSession session_;
-  CommandQueue& commands_;
-  const PadEvents events_;
-  DeviceMonitor monitor_;
+  SdlSession session_;
+  const PadLoopContext context_;
   SdlPads pads_;
   VirtualPadPipe pipe_;
   VirtualPads virtualPads_;

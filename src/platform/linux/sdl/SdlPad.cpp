@@ -11,6 +11,7 @@
 
 #include "ControllerCategory.h"
 #include "SdlButtons.h"
+#include "SdlProfile.h"
 #include "StickDeflection.h"
 
 namespace vantorel {
@@ -18,8 +19,8 @@ namespace {
 
 std::string textOf(const char* text) { return text == nullptr ? "" : text; }
 
-SdlGamepad::ButtonSet buttonsOf(SDL_GameController& controller) {
-  SdlGamepad::ButtonSet buttons;
+LinuxGamepad::ButtonSet buttonsOf(SDL_GameController& controller) {
+  LinuxGamepad::ButtonSet buttons;
   for (const GamepadButton button : allGamepadButtons()) {
     const auto sdlButton = sdlButtonOf(button);
     const bool isTrigger = !sdlButton;
@@ -29,9 +30,9 @@ SdlGamepad::ButtonSet buttonsOf(SDL_GameController& controller) {
   return buttons;
 }
 
-void setButton(SdlGamepad& gamepad, GamepadButton button, bool isPressed,
+void setButton(LinuxGamepad& gamepad, GamepadButton button, bool isPressed,
                const SdlPad::ButtonChanged& changed) {
-  SdlButtonInput* const input = gamepad.input(button);
+  LinuxButtonInput* const input = gamepad.input(button);
   if (input != nullptr && input->setPressed(isPressed)) changed(button, isPressed);
 }
 
@@ -52,7 +53,7 @@ std::unique_ptr<SdlPad> SdlPad::open(int deviceIndex) {
 SdlPad::SdlPad(JoystickHandle joystick, ControllerHandle gameController)
     : joystick_(std::move(joystick)),
       gameController_(std::move(gameController)),
-      controller_(std::make_shared<SdlController>(describe(*joystick_, gameController_.get()))) {
+      controller_(std::make_shared<LinuxController>(describe(*joystick_, gameController_.get()))) {
   const std::string& path = controller_->node();
   if (path.empty()) return;
   node_ = PolledFile::open(path, O_RDONLY);
@@ -62,8 +63,8 @@ SdlPad::SdlPad(JoystickHandle joystick, ControllerHandle gameController)
 
 SdlPad::~SdlPad() { becomeNeutral(); }
 
-SdlController::Description SdlPad::describe(SDL_Joystick& joystick, SDL_GameController* gameController) {
-  SdlController::Description description;
+LinuxController::Description SdlPad::describe(SDL_Joystick& joystick, SDL_GameController* gameController) {
+  LinuxController::Description description;
   const std::string name = textOf(gameController != nullptr ? SDL_GameControllerName(gameController)
                                                             : SDL_JoystickName(&joystick));
   if (!name.empty()) description.name = name;
@@ -86,7 +87,7 @@ bool SdlPad::drainNode() {
 }
 
 void SdlPad::handle(const SDL_Event& event, const ButtonChanged& changed) {
-  SdlGamepad* const gamepad = controller_->gamepad();
+  LinuxGamepad* const gamepad = controller_->gamepad();
   // SDL lets all buttons up and centres all axes before it tells of an unplugging.
   const bool isGone = isLost_ || SDL_JoystickGetAttached(joystick_.get()) == SDL_FALSE;
   if (gamepad == nullptr || isGone) return;
@@ -98,7 +99,7 @@ void SdlPad::handle(const SDL_Event& event, const ButtonChanged& changed) {
   }
 }
 
-void SdlPad::moveAxis(SdlGamepad& gamepad, const SDL_ControllerAxisEvent& event,
+void SdlPad::moveAxis(LinuxGamepad& gamepad, const SDL_ControllerAxisEvent& event,
                       const ButtonChanged& changed) {
   StickPosition left = gamepad.leftThumbstick();
   StickPosition right = gamepad.rightThumbstick();
@@ -129,7 +130,7 @@ void SdlPad::moveAxis(SdlGamepad& gamepad, const SDL_ControllerAxisEvent& event,
 }
 
 void SdlPad::becomeNeutral() {
-  if (SdlGamepad* const gamepad = controller_->gamepad()) gamepad->becomeNeutral();
+  if (LinuxGamepad* const gamepad = controller_->gamepad()) gamepad->becomeNeutral();
 }
 
 }  // namespace vantorel

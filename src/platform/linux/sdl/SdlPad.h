@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "GamepadButton.h"
+#include "LinuxController.h"
 #include "PolledFile.h"
-#include "SdlController.h"
 #include "TriggerTravel.h"
 
 namespace vantorel {
@@ -25,7 +25,7 @@ class SdlPad {
   /// Leaves the controller neutral.
   ~SdlPad();
 
-  const std::shared_ptr<SdlController>& controller() const { return controller_; }
+  const std::shared_ptr<LinuxController>& controller() const { return controller_; }
 
   /// The pad's own node, opened a second time: readable when the pad has news for SDL. Negative without one.
   int descriptor() const { return node_.descriptor(); }
@@ -48,13 +48,13 @@ class SdlPad {
 
   SdlPad(JoystickHandle joystick, ControllerHandle gameController);
 
-  static SdlController::Description describe(SDL_Joystick& joystick, SDL_GameController* gameController);
+  static LinuxController::Description describe(SDL_Joystick& joystick, SDL_GameController* gameController);
   void becomeNeutral();
-  void moveAxis(SdlGamepad& gamepad, const SDL_ControllerAxisEvent& event, const ButtonChanged& changed);
+  void moveAxis(LinuxGamepad& gamepad, const SDL_ControllerAxisEvent& event, const ButtonChanged& changed);
 
   const JoystickHandle joystick_;
   const ControllerHandle gameController_;  // null for a joystick that SDL's database does not know
-  const std::shared_ptr<SdlController> controller_;
+  const std::shared_ptr<LinuxController> controller_;
   PolledFile node_;
   bool isLost_ = false;
   TriggerTravel leftTrigger_;

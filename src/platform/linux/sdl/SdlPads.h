@@ -3,25 +3,14 @@
 #include <SDL.h>
 #include <poll.h>
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
 
-#include "GamepadButton.h"
-#include "SdlController.h"
+#include "PadEvents.h"
 #include "SdlPad.h"
 
 namespace vantorel {
-
-/// What is told of the pads, in the order in which it happened. Called on SDL's thread.
-struct PadEvents {
-  std::function<void(const std::shared_ptr<SdlController>& controller)> connected;
-  /// The controller already reads as neutral.
-  std::function<void(const std::shared_ptr<SdlController>& controller)> disconnected;
-  std::function<void(const std::shared_ptr<SdlController>& controller, GamepadButton button, bool isPressed)>
-      changed;
-};
 
 /// All pads that are plugged in. SDL's thread.
 class SdlPads {

@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace vantorel {
 namespace {
@@ -31,5 +32,10 @@ SdlSession::SdlSession() {
 }
 
 SdlSession::~SdlSession() { SDL_Quit(); }
+
+void SdlSession::setMonitorsBackground(bool should) {
+  if (std::exchange(monitorsBackground_, should) == should) return;
+  require(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, should ? "1" : "0");
+}
 
 }  // namespace vantorel

@@ -11,6 +11,12 @@ class SdlSession {
   SdlSession(const SdlSession&) = delete;
   SdlSession& operator=(const SdlSession&) = delete;
   ~SdlSession();
+
+  /// Whether pads are heard without a window in front; so it is from the start.
+  void setMonitorsBackground(bool should);
+
+ private:
+  bool monitorsBackground_ = true;
 };
 
 }  // namespace vantorel

@@ -1,8 +1,7 @@
-#include "ControllerProfile.h"
+#include "SdlProfile.h"
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace vantorel {
 namespace {
@@ -26,18 +25,6 @@ constexpr std::array extendedAxes{
 };
 
 }  // namespace
-
-std::string_view displayName(ControllerProfile profile) {
-  switch (profile) {
-    case ControllerProfile::extended:
-      return "extended";
-    case ControllerProfile::micro:
-      return "micro";
-    case ControllerProfile::none:
-      break;
-  }
-  return "none";
-}
 
 ControllerProfile controllerProfile(SDL_GameController& controller) {
   const auto hasButton = [&](SDL_GameControllerButton button) {

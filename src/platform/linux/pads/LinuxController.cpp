@@ -1,16 +1,16 @@
-#include "SdlController.h"
+#include "LinuxController.h"
 
 #include <utility>
 
 namespace vantorel {
 
-SdlController::SdlController(Description description)
+LinuxController::LinuxController(Description description)
     : description_(std::move(description)),
       gamepad_(description_.profile == ControllerProfile::extended
-                   ? std::make_shared<SdlGamepad>(description_.buttons)
+                   ? std::make_shared<LinuxGamepad>(description_.buttons)
                    : nullptr) {}
 
-ControllerFacts SdlController::facts() const {
+ControllerFacts LinuxController::facts() const {
   return {description_.name.value_or(""), description_.category,
           std::string(displayName(description_.profile)), description_.node};
 }

@@ -5,19 +5,19 @@
 #include <bitset>
 
 #include "GameControllers.h"
-#include "SdlButtonInput.h"
+#include "LinuxButtonInput.h"
 
 namespace vantorel {
 
 /// The extended profile of a pad. Its states are written by SDL's thread alone and read by any.
-class SdlGamepad final : public ExtendedGamepad {
+class LinuxGamepad final : public ExtendedGamepad {
  public:
   /// The buttons that a pad has, by their values.
   using ButtonSet = std::bitset<gamepadButtonCount>;
 
-  explicit SdlGamepad(ButtonSet buttons) : buttons_(buttons) {}
+  explicit LinuxGamepad(ButtonSet buttons) : buttons_(buttons) {}
 
-  SdlButtonInput* input(GamepadButton button) override;
+  LinuxButtonInput* input(GamepadButton button) override;
   StickPosition leftThumbstick() const override { return left_.load(); }
   StickPosition rightThumbstick() const override { return right_.load(); }
 
@@ -30,7 +30,7 @@ class SdlGamepad final : public ExtendedGamepad {
 
  private:
   const ButtonSet buttons_;
-  std::array<SdlButtonInput, gamepadButtonCount> inputs_;
+  std::array<LinuxButtonInput, gamepadButtonCount> inputs_;
   std::atomic<StickPosition> left_ = StickPosition{};
   std::atomic<StickPosition> right_ = StickPosition{};
 };

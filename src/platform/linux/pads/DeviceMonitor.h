@@ -1,11 +1,10 @@
 #pragma once
 
-#include <libudev.h>
-
 #include <array>
-#include <memory>
+#include <filesystem>
 
 #include "PolledFile.h"
+#include "Udev.h"
 
 namespace vantorel {
 
@@ -13,7 +12,8 @@ namespace vantorel {
 /// the directory of the device nodes. With neither it stays silent. SDL's thread.
 class DeviceMonitor {
  public:
-  DeviceMonitor();
+  /// Watches from now on; `nodes` is the directory of the device nodes.
+  explicit DeviceMonitor(const std::filesystem::path& nodes);
 
   /// Readable when there is something to drain; a negative one does not exist.
   std::array<int, 2> descriptors() const;
@@ -22,14 +22,8 @@ class DeviceMonitor {
   bool drain();
 
  private:
-  struct Release {
-    void operator()(udev* context) const { udev_unref(context); }
-    void operator()(udev_monitor* monitor) const { udev_monitor_unref(monitor); }
-    void operator()(udev_device* device) const { udev_device_unref(device); }
-  };
-
-  std::unique_ptr<udev, Release> context_;
-  std::unique_ptr<udev_monitor, Release> monitor_;
+  UdevHandle<udev> context_;
+  UdevHandle<udev_monitor> monitor_;
   PolledFile directory_;
 };
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <SDL.h>
-
 #include <cstdint>
 #include <string_view>
 
@@ -16,8 +14,5 @@ enum class ControllerProfile : std::uint8_t {
 
 /// "none", "micro" or "extended".
 std::string_view displayName(ControllerProfile profile);
-
-/// The profile that the inputs of `controller` make. SDL's thread.
-ControllerProfile controllerProfile(SDL_GameController& controller);
 
 }  // namespace vantorel

@@ -8,7 +8,7 @@ namespace vantorel {
 
 /// One button of a pad: SDL's thread writes its state, any thread reads it, and the main thread owns the
 /// handler.
-class SdlButtonInput final : public ButtonInput {
+class LinuxButtonInput final : public ButtonInput {
  public:
   bool isPressed() const override { return isPressed_.load(); }
   void setPressedChangedHandler(PressedChangedHandler handler) override;

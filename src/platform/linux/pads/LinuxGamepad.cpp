@@ -1,16 +1,16 @@
-#include "SdlGamepad.h"
+#include "LinuxGamepad.h"
 
 #include <cstddef>
 
 namespace vantorel {
 
-SdlButtonInput* SdlGamepad::input(GamepadButton button) {
+LinuxButtonInput* LinuxGamepad::input(GamepadButton button) {
   const auto index = static_cast<std::size_t>(button);
   return buttons_.test(index) ? &inputs_.at(index) : nullptr;
 }
 
-void SdlGamepad::becomeNeutral() {
-  for (SdlButtonInput& input : inputs_) input.setPressed(false);
+void LinuxGamepad::becomeNeutral() {
+  for (LinuxButtonInput& input : inputs_) input.setPressed(false);
   left_.store({});
   right_.store({});
 }

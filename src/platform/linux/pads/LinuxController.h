@@ -7,13 +7,13 @@
 #include "ControllerFacts.h"
 #include "ControllerProfile.h"
 #include "GameControllers.h"
-#include "SdlGamepad.h"
+#include "LinuxGamepad.h"
 
 namespace vantorel {
 
 /// A controller as the rest of the program sees it. It holds nothing of SDL's, so that it may outlive the pad
 /// and be released on any thread.
-class SdlController final : public Controller {
+class LinuxController final : public Controller {
  public:
   /// What stays the same as long as the pad is plugged in.
   struct Description {
@@ -21,10 +21,10 @@ class SdlController final : public Controller {
     std::string category;
     std::string node;  ///< the device's file, empty when it has none
     ControllerProfile profile = ControllerProfile::none;
-    SdlGamepad::ButtonSet buttons;  ///< used by the extended profile only
+    LinuxGamepad::ButtonSet buttons;  ///< used by the extended profile only
   };
 
-  explicit SdlController(Description description);
+  explicit LinuxController(Description description);
 
   std::optional<std::string> vendorName() const override { return description_.name; }
   std::string productCategory() const override { return description_.category; }
@@ -37,11 +37,11 @@ class SdlController final : public Controller {
   ControllerFacts facts() const;
 
   /// The inputs; null without the extended profile.
-  SdlGamepad* gamepad() const { return gamepad_.get(); }
+  LinuxGamepad* gamepad() const { return gamepad_.get(); }
 
  private:
   const Description description_;
-  const std::shared_ptr<SdlGamepad> gamepad_;
+  const std::shared_ptr<LinuxGamepad> gamepad_;
 };
 
 }  // namespace vantorel
