@@ -1,6 +1,7 @@
 #include <SDL.h>
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -81,6 +82,14 @@ TEST_F(SdlLoading, IsDoneWhenAPadMayHaveBeenPluggedInAndTellsOfIt) {
   EXPECT_EQ(told, (std::vector<std::string>{"+late", "+later", "-"}));
 }
 
+TEST_F(SdlLoading, IsFollowedByASecondLookAsAPadMayNotBeReadyYet) {
+  start(places);
+  service().controllers();
+  const std::uint64_t before = service().wakeUps();
+  plugIn("event0");
+  EXPECT_TRUE(waitUntil([&] { return service().isSdlWanted() && service().wakeUps() >= before + 2; }));
+}
+
 TEST_F(SdlLoading, IsDoneForABlockOnSdlsThread) {
   start(places);
   EXPECT_NE(attach("pad"), nullptr);
@@ -100,6 +109,16 @@ TEST_F(SdlLoading, IsNotDoneForTheBackgroundEventsWhichAreMonitoredAsAskedForAft
   EXPECT_EQ(hint(), "0");
   service().setShouldMonitorBackgroundEvents(true);
   EXPECT_EQ(hint(), "1");
+}
+
+TEST_F(SdlLoading, OnceDoneLetsTheBackgroundEventsFollowAtOnce) {
+  start(places);
+  onSdlThread([] {});
+  for (const bool should : {false, true, false}) {
+    const std::uint64_t before = service().wakeUps();
+    service().setShouldMonitorBackgroundEvents(should);
+    EXPECT_TRUE(waitUntil([&] { return service().wakeUps() > before; }));
+  }
 }
 
 TEST_F(SdlLoading, ThatFailsIsReportedAndLeavesTheListEmpty) {
