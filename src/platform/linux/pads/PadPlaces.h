@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 namespace vantorel {
 
@@ -9,7 +8,7 @@ namespace vantorel {
 struct PadPlaces {
   std::filesystem::path nodes = "/dev/input";
   std::filesystem::path udevControl = "/run/udev/control";  ///< is there when udev runs
-  std::string module = "vantorel-sdl.so";                   ///< SDL's part, as dlopen(3) takes it
+  std::filesystem::path module = "vantorel-sdl.so";         ///< SDL's part, seen from the program's directory
 };
 
 }  // namespace vantorel
