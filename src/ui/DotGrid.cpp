@@ -30,15 +30,16 @@ void paintDots(QPainter& painter, QSizeF size) {
     painter.drawEllipse(QRectF(corner, QSizeF(dotSize, dotSize)));
 }
 
-/// One square of the grid with its dot.
-QPixmap tile(double scale) {
+/// A few squares of the grid with their dots: the fewer of them cover a window, the sooner it is drawn.
+QPixmap tile(double scale, const QColor& ground) {
+  constexpr int squares = 8;
   const int pixels = qRound(spacing * scale);
-  QPixmap square(pixels, pixels);
-  square.setDevicePixelRatio(scale);
-  square.fill(Qt::transparent);
-  QPainter painter(&square);
-  paintDots(painter, QSizeF(dotSize, dotSize));
-  return square;
+  QPixmap row(squares * pixels, pixels);
+  row.setDevicePixelRatio(scale);
+  row.fill(ground);
+  QPainter painter(&row);
+  paintDots(painter, QSizeF(squares * spacing, dotSize));
+  return row;
 }
 
 }  // namespace
@@ -53,15 +54,16 @@ std::vector<QPointF> dotGridPoints(QSizeF size) {
   return points;
 }
 
-void paintDotGrid(QPainter& painter, QSize size) {
+void paintDotGrid(QPainter& painter, QSize size, const QColor& ground) {
   if (size.isEmpty()) return;
   const QRect layer({0, 0}, size);
   const QTransform toDevice = painter.deviceTransform();
   painter.save();
   painter.setClipRect(layer, Qt::IntersectClip);
   if (repeats(toDevice)) {
-    painter.drawTiledPixmap(layer, tile(toDevice.m11()));
+    painter.drawTiledPixmap(layer, tile(toDevice.m11(), ground));
   } else {
+    painter.fillRect(layer, ground);
     paintDots(painter, size);
   }
   painter.restore();
@@ -71,10 +73,9 @@ DotGridBackground::DotGridBackground(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void DotGridBackground::paintEvent(QPaintEvent* event) {
+void DotGridBackground::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.fillRect(event->rect(), AppTheme::background());
-  paintDotGrid(painter, size());
+  paintDotGrid(painter, size(), AppTheme::background());
 }
 
 }  // namespace vantorel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QPainter>
 #include <QPointF>
 #include <QSize>
@@ -13,8 +14,8 @@ namespace vantorel {
 /// None if the size is empty.
 std::vector<QPointF> dotGridPoints(QSizeF size);
 
-/// Draws the dots of a layer of `size` points: 2 points wide, black at 0.05.
-void paintDotGrid(QPainter& painter, QSize size);
+/// Draws the dots of a layer of `size` points, 2 points wide and black at 0.05, on the colour `ground`.
+void paintDotGrid(QPainter& painter, QSize size, const QColor& ground);
 
 /// The page of the window: its colour with the dot grid on it. It lies behind everything else.
 class DotGridBackground : public QWidget {

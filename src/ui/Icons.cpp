@@ -5,6 +5,7 @@
 #include <QPainterPathStroker>
 #include <QPixmap>
 #include <algorithm>
+#include <vector>
 
 #include "AccessibleRole.h"
 #include "PixelGrid.h"
@@ -36,13 +37,21 @@ QPainterPath box(double x, double y, double width, double height) {
   return path;
 }
 
+/// All of `parts`, filled wherever one of them is.
+QPainterPath together(const std::vector<QPainterPath>& parts) {
+  QPainterPath whole;
+  whole.setFillRule(Qt::WindingFill);
+  for (const QPainterPath& part : parts) whole.addPath(part);
+  return whole;
+}
+
 QPainterPath ellipse(double radiusX, double radiusY) {
   QPainterPath path;
   path.addEllipse(QPointF(units / 2, units / 2), radiusX, radiusY);
   return path;
 }
 
-/// A pad with two grips; the cross and two buttons are holes in it.
+/// A pad with two grips; the cross and two buttons are holes in it, as they lie in it and do not overlap.
 QPainterPath controllerPath() {
   QPainterPath pad(QPointF(7, 5.5));
   pad.lineTo(17, 5.5);
@@ -54,29 +63,30 @@ QPainterPath controllerPath() {
   pad.cubicTo(1.6, 19.3, 0.4, 18, 1.2, 13.6);
   pad.cubicTo(2, 9, 3.4, 5.5, 7, 5.5);
   pad.closeSubpath();
-  QPainterPath holes = box(7, 7.8, 1.8, 5.4).united(box(5.2, 9.6, 5.4, 1.8));
-  holes.addEllipse(QPointF(17.6, 8.9), 1.25, 1.25);
-  holes.addEllipse(QPointF(15.2, 11.9), 1.25, 1.25);
-  return pad.subtracted(holes);
+  for (const QPainterPath& part : {box(7, 7.8, 1.8, 5.4), box(5.2, 9.6, 1.8, 1.8), box(8.8, 9.6, 1.8, 1.8)})
+    pad.addPath(part);
+  pad.addEllipse(QPointF(17.6, 8.9), 1.25, 1.25);
+  pad.addEllipse(QPointF(15.2, 11.9), 1.25, 1.25);
+  return pad;
 }
 
-/// A plug with two prongs, pulled out of its socket.
+/// A plug with two prongs, pulled out of its socket, which has two holes for them.
 QPainterPath unpluggedCablePath() {
-  const QPainterPath plug = box(0, 10.5, 3, 3).united(box(3, 5, 5.5, 14));
-  const QPainterPath prongs = box(8.5, 7.5, 4, 2.5).united(box(8.5, 14, 4, 2.5));
-  const QPainterPath socket = box(16, 5, 5, 14).united(box(21, 10.5, 3, 3));
-  const QPainterPath holes = box(16, 7.5, 2.5, 2.5).united(box(16, 14, 2.5, 2.5));
-  return plug.united(prongs).united(socket.subtracted(holes));
+  const QPainterPath plug = together({box(0, 10.5, 3, 3), box(3, 5, 5.5, 14)});
+  const QPainterPath prongs = together({box(8.5, 7.5, 4, 2.5), box(8.5, 14, 4, 2.5)});
+  const QPainterPath socket = together({box(16, 5, 2.5, 2.5), box(16, 10, 2.5, 4), box(16, 16.5, 2.5, 2.5),
+                                        box(18.5, 5, 2.5, 14), box(21, 10.5, 3, 3)});
+  return together({plug, prongs, socket});
 }
 
 QPainterPath globePath() {
   constexpr double line = 1.7;
-  QPainterPath path = stroked(ellipse(10.2, 10.2), line).united(stroked(ellipse(4.4, 10.2), line));
+  std::vector<QPainterPath> lines{stroked(ellipse(10.2, 10.2), line), stroked(ellipse(4.4, 10.2), line)};
   for (const double y : {7.4, 12.0, 16.6}) {
     const double reach = y == 12.0 ? 10.2 : 8.8;
-    path = path.united(stroked(straight({12 - reach, y}, {12 + reach, y}), line));
+    lines.push_back(stroked(straight({12 - reach, y}, {12 + reach, y}), line));
   }
-  return path;
+  return together(lines);
 }
 
 QPainterPath checkMarkPath() {

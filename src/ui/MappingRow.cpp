@@ -1,9 +1,7 @@
 #include "MappingRow.h"
 
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "AppTheme.h"
 #include "BilingualText.h"
@@ -63,10 +61,7 @@ void MappingRow::describe() {
   setAccessibleDescription((content.key ? chooseHelp : unmappedHelp).in(content.language));
 }
 
-QSize MappingRow::sizeHint() const {
-  const double keyWidth = QFontMetricsF(keyFont()).horizontalAdvance(keyName());
-  return {rightCellLeft + static_cast<int>(std::ceil(keyWidth)) + padding + chevronSize + padding, rowHeight};
-}
+QSize MappingRow::sizeHint() const { return {2 * leftCellWidth, rowHeight}; }
 
 void MappingRow::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);

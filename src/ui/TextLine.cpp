@@ -12,10 +12,11 @@ QString fromCore(std::string_view text) {
 void paintTextLine(QPainter& painter, const QRectF& area, const QString& text, const QFont& font,
                    const QColor& color, Qt::Alignment alignment) {
   const QFontMetricsF metrics(font);
-  const double room = area.width() - metrics.horizontalAdvance(text);
   double left = area.left();
-  if (alignment & Qt::AlignHCenter) left += room / 2;
-  if (alignment & Qt::AlignRight) left += room;
+  if (!(alignment & Qt::AlignLeft)) {
+    const double room = area.width() - metrics.horizontalAdvance(text);
+    left += alignment & Qt::AlignHCenter ? room / 2 : room;
+  }
   painter.setFont(font);
   painter.setPen(color);
   painter.drawText(QPointF(left, area.center().y() + metrics.capHeight() / 2), text);

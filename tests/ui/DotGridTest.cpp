@@ -33,7 +33,7 @@ QImage paintedGrid(QSize size, double scale) {
   image.setDevicePixelRatio(scale);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  paintDotGrid(painter, size);
+  paintDotGrid(painter, size, Qt::transparent);
   painter.end();
   image.setDevicePixelRatio(1);
   return image;
