@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <algorithm>
 
+#include "BuiltInFonts.h"
 #include "MainWindow.h"
 #include "QtArguments.h"
 
@@ -27,6 +28,7 @@ std::optional<std::string> drawScreenshot(WindowState& state, const std::string&
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   QtArguments arguments;
   const QApplication application(arguments.count, arguments.values.data());
+  useBuiltInFonts();
 
   MainWindow window(state, {[] {}, [] {}, [] {}});
   window.resize(ContentView::idealSize);

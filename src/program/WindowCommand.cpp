@@ -1,10 +1,8 @@
-#include <fontconfig/fontconfig.h>
-
 #include <QApplication>
 #include <exception>
 #include <memory>
-#include <thread>
 
+#include "BuiltInFonts.h"
 #include "Commands.h"
 #include "HeldKeyFilter.h"
 #include "RemoteControl.h"
@@ -47,10 +45,8 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
-  // Each takes some milliseconds: to read the font configuration, and to connect to the display.
-  std::jthread fontSearch([] { FcInit(); });
   QApplication application(argumentCount, arguments);
-  fontSearch.join();
+  useBuiltInFonts();
   HeldKeyFilter heldKeys;
   application.installEventFilter(&heldKeys);
   describeApplication();

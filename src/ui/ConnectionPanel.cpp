@@ -1,6 +1,8 @@
 #include "ConnectionPanel.h"
 
+#include "BuiltInFonts.h"
 #include "LongestTexts.h"
+#include "TextLine.h"
 
 namespace vantorel {
 
@@ -19,10 +21,7 @@ constexpr BilingualText noDevice{"NO DEVICE FOUND", "未发现设备"};
 
 QString inputLine(const QString& value) { return QStringLiteral("INPUT: ") + value; }
 
-QString nameOf(GamepadButton button, AppLanguage language) {
-  const std::string_view name = displayName(button, language);
-  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-}
+QString nameOf(GamepadButton button, AppLanguage language) { return fromCore(displayName(button, language)); }
 
 /// All lines that can come, so that room for the longest is kept.
 QStringList inputLines(AppLanguage language) {
@@ -59,7 +58,7 @@ void ConnectionPanel::refresh() {
   icon->setIcon(isConnected ? Icon::controller : Icon::unpluggedCable);
   icon->setColor(isConnected ? AppTheme::success() : AppTheme::accent());
   status->showState(local(isConnected ? online : disconnected), isConnected);
-  device->setText(isConnected ? QString::fromStdString(manager.connectedControllerName) : local(noDevice));
+  device->setText(isConnected ? foreignText(manager.connectedControllerName.get()) : local(noDevice));
   input->setText(inputLine(latestInput()));
 }
 

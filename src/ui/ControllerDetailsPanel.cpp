@@ -1,6 +1,8 @@
 #include "ControllerDetailsPanel.h"
 
+#include "BuiltInFonts.h"
 #include "LongestTexts.h"
+#include "TextLine.h"
 
 namespace vantorel {
 
@@ -23,10 +25,6 @@ constexpr BilingualText probeName{"START_PROBE", "开始检测"};
 constexpr BilingualText probeHint{"Reports in the log the first button that is pressed within ten seconds.",
                                   "在日志中报告十秒内按下的第一个按钮。"};
 
-QString textOf(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QString line(AppLanguage language, const BilingualText& name, const QString& value) {
   return name.in(language) + QStringLiteral(": ") + value;
 }
@@ -34,11 +32,11 @@ QString line(AppLanguage language, const BilingualText& name, const QString& val
 QString answer(AppLanguage language, bool isTrue) { return (isTrue ? yes : no).in(language); }
 
 QString familyLine(AppLanguage language, ControllerType controllerType) {
-  return line(language, familyName, textOf(displayText(controllerType)));
+  return line(language, familyName, fromCore(displayText(controllerType)));
 }
 
 QString lastKeyLine(AppLanguage language, std::optional<KeyboardKey> key) {
-  return line(language, lastKeyName, key ? textOf(displayName(*key, language)) : QStringLiteral("---"));
+  return line(language, lastKeyName, key ? fromCore(displayName(*key, language)) : QStringLiteral("---"));
 }
 
 // All lines that can come, so that room for the longest is kept.
@@ -98,7 +96,7 @@ void ControllerDetailsPanel::refresh() {
   driver->setText(line(language, driverName, answer(language, manager.is360ControllerInstalled)));
   lastKey->setText(lastKeyLine(language, manager.lastKeyboardKeyPressed));
   family->setText(familyLine(language, manager.detectedControllerType));
-  type->setText(line(language, typeName, QString::fromStdString(manager.gamepadType)));
+  type->setText(line(language, typeName, foreignText(manager.gamepadType.get())));
   probe->setAccessibleName(local(probeName));
   probe->setToolTip(local(probeHint));
 }

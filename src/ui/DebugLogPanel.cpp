@@ -7,7 +7,8 @@
 #include <cmath>
 
 #include "BilingualText.h"
-#include "WrappedText.h"
+#include "BuiltInFonts.h"
+#include "Lettering.h"
 
 namespace vantorel {
 
@@ -15,8 +16,8 @@ namespace {
 
 constexpr int lineCapacity = 20;
 constexpr int lineSpacing = 8;
-/// With characters of every font that is used.
-constexpr const char* tallestLine = "A 中 🎮";
+/// With characters of the fonts that make a line high; an emoji fits into it.
+constexpr const char* tallestLine = "A中";
 
 constexpr const char* tagText = "DEBUG_LOG";
 constexpr BilingualText name{"Debug log", "调试日志"};
@@ -50,8 +51,8 @@ DebugLogPanel::DebugLogPanel(WindowState& windowState, QWidget* parent)
 
 /// For a full log of lines that do not wrap. The card never grows; longer logs scroll.
 void DebugLogPanel::reserveRoom() {
-  const WrappedText line(QString::fromUtf8(tallestLine), log->font(), log->width());
-  const double rows = lineCapacity * line.size().height();
+  const double line = Lettering(log->font()).size(QString::fromUtf8(tallestLine)).height();
+  const double rows = lineCapacity * line;
   const double margins = 2 * (log->document()->documentMargin() + log->frameWidth());
   constexpr int spare = 1;  // without it the view would scroll by a line
   log->setFixedHeight(static_cast<int>(std::ceil(rows + margins)) + spare);
@@ -62,8 +63,7 @@ void DebugLogPanel::refresh() {
   tag->setToolTip(hint.in(language));
   log->setAccessibleName(name.in(language));
   QStringList lines;
-  for (const std::string& line : state.controllerManager.debugLogs.get())
-    lines += QString::fromStdString(line);
+  for (const std::string& line : state.controllerManager.debugLogs.get()) lines += foreignText(line);
   showLines(lines);
 }
 

@@ -3,6 +3,7 @@
 #include "AccessibleMenuButton.h"
 #include "AppTheme.h"
 #include "BilingualText.h"
+#include "TextLine.h"
 
 namespace vantorel {
 
@@ -10,11 +11,6 @@ namespace {
 
 constexpr BilingualText name{"Language", "语言"};
 constexpr BilingualText hint{"Chooses the language of this window.", "选择界面语言。"};
-
-QString nameOf(AppLanguage language) {
-  const std::string_view text = displayName(language);
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 }  // namespace
 
@@ -31,7 +27,7 @@ LanguageMenu::LanguageMenu(WindowState& windowState, QWidget* parent)
 void LanguageMenu::fillMenu() {
   QSize largest;
   for (const AppLanguage language : allAppLanguages()) {
-    QAction* const entry = menu->addAction(nameOf(language));
+    QAction* const entry = menu->addAction(fromCore(displayName(language)));
     entry->setCheckable(true);
     connect(entry, &QAction::triggered, this, [this, language] {
       state.chooseLanguage(language);
@@ -39,7 +35,7 @@ void LanguageMenu::fillMenu() {
       refresh();      // a click unchecks an entry that was checked
     });
     entries.push_back(entry);
-    setText(nameOf(language));
+    setText(fromCore(displayName(language)));
     largest = largest.expandedTo(sizeHint());
   }
   setFixedSize(largest);
@@ -58,9 +54,9 @@ void LanguageMenu::refresh() {
   for (std::size_t index = 0; index < entries.size(); ++index) {
     entries[index]->setChecked(allAppLanguages().at(index) == current);
   }
-  setText(nameOf(current));
+  setText(fromCore(displayName(current)));
   setToolTip(hint.in(current));
-  setAccessibleName(name.in(current) + QStringLiteral(": ") + nameOf(current));
+  setAccessibleName(name.in(current) + QStringLiteral(": ") + fromCore(displayName(current)));
   menu->setAccessibleName(name.in(current));
 }
 

@@ -1,40 +1,30 @@
 #include "Typography.h"
 
 #include <QStringList>
-#include <utility>
 
 namespace vantorel {
 
 namespace {
 
-QFont fontOf(const QStringList& families, QFont::StyleHint hint, int points, QFont::Weight weight) {
+/// With Chinese, which is clear in small sizes, also in bold, and emoji.
+QFont fontOf(const QString& family, int points, QFont::Weight weight) {
   QFont font;
-  font.setFamilies(families);
-  font.setStyleHint(hint);
+  font.setFamilies({family, QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("Noto Color Emoji")});
   font.setPixelSize(points);
   font.setWeight(weight);
+  font.setHintingPreference(QFont::PreferNoHinting);  // every letter in its own shape at every scale
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
   return font;
-}
-
-/// The first of them that is installed draws the Chinese; it is clear in small sizes, also in bold.
-QStringList withChineseAndEmoji(QStringList families) {
-  return std::move(families) << QStringLiteral("WenQuanYi Micro Hei") << QStringLiteral("Noto Sans CJK SC")
-                             << QStringLiteral("DejaVu Sans") << QStringLiteral("Noto Color Emoji");
 }
 
 }  // namespace
 
 QFont monospaced(int points, QFont::Weight weight) {
-  static const QStringList families =
-      withChineseAndEmoji({QStringLiteral("DejaVu Sans Mono"), QStringLiteral("Noto Sans Mono"),
-                           QStringLiteral("Liberation Mono")});
-  return fontOf(families, QFont::Monospace, points, weight);
+  return fontOf(QStringLiteral("DejaVu Sans Mono"), points, weight);
 }
 
 QFont systemFont(int points, QFont::Weight weight) {
-  static const QStringList families = withChineseAndEmoji(
-      {QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans"), QStringLiteral("Liberation Sans")});
-  return fontOf(families, QFont::SansSerif, points, weight);
+  return fontOf(QStringLiteral("DejaVu Sans"), points, weight);
 }
 
 }  // namespace vantorel

@@ -8,7 +8,7 @@ inline constexpr int bodySize = 13;     ///< text that asks for no size of its o
 inline constexpr int captionSize = 10;  ///< captions and labels of switches, in points
 
 /// The monospaced font of the window at a size in points, which are logical pixels, with families that have
-/// Chinese and emoji behind it. Costs no look at the installed fonts before a text is drawn.
+/// Chinese and emoji behind it. All of them are built in.
 QFont monospaced(int points = bodySize, QFont::Weight weight = QFont::Normal);
 
 /// The proportional font of the mapping list and the key picker, with the same families behind it.

@@ -1,32 +1,17 @@
 #include "WrappedText.h"
 
 #include <QTextBoundaryFinder>
-#include <QTextLayout>
-#include <QTextOption>
 #include <algorithm>
-#include <utility>
+#include <limits>
+
+#include "Lettering.h"
 
 namespace vantorel {
 
 namespace {
 
-std::unique_ptr<QTextLayout> unbrokenLine(const QString& text, const QFont& font) {
-  auto layout = std::make_unique<QTextLayout>(text, font);
-  QTextOption option;
-  option.setWrapMode(QTextOption::NoWrap);
-  layout->setTextOption(option);
-  layout->beginLayout();
-  layout->createLine();
-  layout->endLayout();
-  return layout;
-}
-
 /// Names in capitals and paths have no blanks: they may be parted after these.
 bool partsAfter(QChar character) { return character == u'_' || character == u'/' || character == u':'; }
-
-double inkWidth(const QString& text, const QFont& font) {
-  return unbrokenLine(text, font)->lineAt(0).naturalTextWidth();
-}
 
 /// No glyph at the end of a line reaches further over its own advance.
 constexpr double longestOverhang = 4;
@@ -34,11 +19,11 @@ constexpr double longestOverhang = 4;
 /// One paragraph, measured, and its places to break.
 class Paragraph {
  public:
-  /// `wholeLine` is all of `content`, laid out without a break.
-  Paragraph(const QString& content, const QFont& lineFont, std::unique_ptr<QTextLayout> wholeLine)
+  /// `usedLettering` outlives it.
+  Paragraph(const QString& content, const Lettering& usedLettering)
       : text(content),
-        font(lineFont),
-        line(std::move(wholeLine)),
+        lettering(usedLettering),
+        pens(lettering.pens(text)),
         unicodeBreaks(QTextBoundaryFinder::Line, text),
         characters(QTextBoundaryFinder::Grapheme, text) {}
 
@@ -51,7 +36,7 @@ class Paragraph {
   bool fits(qsizetype begin, qsizetype end, double limit) const {
     const double advance = advanceOf(begin, end);
     return advance <= limit - longestOverhang ||
-           (advance <= limit && inkWidth(part(begin, end), font) <= limit);
+           (advance <= limit && lettering.size(part(begin, end)).width() <= limit);
   }
 
   /// How far the part moves the pen.
@@ -82,7 +67,7 @@ class Paragraph {
   qsizetype size() const { return text.size(); }
 
  private:
-  double xAt(qsizetype position) const { return line->lineAt(0).cursorToX(static_cast<int>(position)); }
+  double xAt(qsizetype position) const { return pens[static_cast<std::size_t>(position)]; }
 
   bool isUnicodeBreak(qsizetype position) {
     unicodeBreaks.setPosition(position);
@@ -114,80 +99,71 @@ class Paragraph {
   }
 
   QString text;
-  QFont font;
-  std::unique_ptr<QTextLayout> line;
+  const Lettering& lettering;
+  std::vector<double> pens;
   QTextBoundaryFinder unicodeBreaks;
   QTextBoundaryFinder characters;
 };
 
 }  // namespace
 
-WrappedText::WrappedText(const QString& text, const QFont& font, double width, Qt::Alignment alignment)
-    : place(alignment) {
+WrappedText::WrappedText(const QString& text, const QFont& lineFont, double width, Qt::Alignment alignment)
+    : font(lineFont), place(alignment) {
   constexpr double roundingError = 0.01;
+  const Lettering lettering(font);
   for (const QString& content : text.split(u'\n')) {
-    auto whole = unbrokenLine(content, font);
-    if (whole->lineAt(0).naturalTextWidth() <= width) {
-      lines.push_back(std::move(whole));
+    if (const QSizeF whole = lettering.size(content); whole.width() <= width) {
+      lines.push_back({content, whole});
       continue;
     }
-    Paragraph paragraph(content, font, std::move(whole));
+    Paragraph paragraph(content, lettering);
     qsizetype begin = 0;
     do {
       const qsizetype end = paragraph.lineEnd(begin, width + roundingError);
-      lines.push_back(unbrokenLine(paragraph.part(begin, end), font));
+      const QString part = paragraph.part(begin, end);
+      lines.push_back({part, lettering.size(part)});
       begin = end;
     } while (begin < paragraph.size());
   }
 }
 
-WrappedText::~WrappedText() = default;
-WrappedText::WrappedText(WrappedText&&) noexcept = default;
-WrappedText& WrappedText::operator=(WrappedText&&) noexcept = default;
-
 QSizeF WrappedText::size() const {
   QSizeF total(0, 0);
-  for (const auto& line : lines) {
-    const QTextLine content = line->lineAt(0);
-    total = {std::max(total.width(), content.naturalTextWidth()), total.height() + content.height()};
-  }
+  for (const Line& line : lines)
+    total = {std::max(total.width(), line.size.width()), total.height() + line.size.height()};
   return total;
 }
 
 void WrappedText::paint(QPainter& painter, const QRectF& area, const QColor& color) const {
+  const Lettering lettering(font);
   double y = area.top();
   if (place & Qt::AlignVCenter) y += (area.height() - size().height()) / 2;
   if (place & Qt::AlignBottom) y += area.height() - size().height();
   painter.setPen(color);
-  for (const auto& line : lines) {
-    const QTextLine content = line->lineAt(0);
-    const double room = area.width() - content.naturalTextWidth();
+  for (const Line& line : lines) {
+    const double room = area.width() - line.size.width();
     double x = area.left();
     if (place & Qt::AlignHCenter) x += room / 2;
     if (place & Qt::AlignRight) x += room;
-    line->draw(&painter, {x, y});
-    y += content.height();
+    lettering.draw(painter, {x, y}, line.text);
+    y += line.size.height();
   }
 }
 
 double unbrokenWidth(const QString& text, const QFont& font) {
-  double widest = 0;
-  for (const QString& line : text.split(u'\n')) {
-    widest = std::max(widest, inkWidth(line, font));
-  }
-  return widest;
+  return WrappedText(text, font, std::numeric_limits<double>::infinity()).size().width();
 }
 
 double widestPart(const QString& text, const QFont& font) {
+  const Lettering lettering(font);
   double widest = 0;
   for (const QString& content : text.split(u'\n')) {
-    Paragraph paragraph(content, font, unbrokenLine(content, font));
+    Paragraph paragraph(content, lettering);
     qsizetype begin = 0;
     while (begin < paragraph.size()) {
       const qsizetype end = paragraph.nextBreak(begin);
-      if (paragraph.advanceOf(begin, end) + longestOverhang > widest) {
-        widest = std::max(widest, inkWidth(paragraph.part(begin, end), font));
-      }
+      if (paragraph.advanceOf(begin, end) + longestOverhang > widest)
+        widest = std::max(widest, lettering.size(paragraph.part(begin, end)).width());
       begin = end;
     }
   }

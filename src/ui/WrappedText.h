@@ -6,10 +6,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-#include <memory>
 #include <vector>
-
-class QTextLayout;
 
 namespace vantorel {
 
@@ -18,12 +15,8 @@ namespace vantorel {
 class WrappedText {
  public:
   /// `text` in lines at most `width` points wide; its own line breaks are kept.
-  WrappedText(const QString& text, const QFont& font, double width, Qt::Alignment alignment = Qt::AlignLeft);
-  ~WrappedText();
-  WrappedText(WrappedText&&) noexcept;
-  WrappedText& operator=(WrappedText&&) noexcept;
-  WrappedText(const WrappedText&) = delete;
-  WrappedText& operator=(const WrappedText&) = delete;
+  WrappedText(const QString& text, const QFont& lineFont, double width,
+              Qt::Alignment alignment = Qt::AlignLeft);
 
   int lineCount() const { return static_cast<int>(lines.size()); }
   /// The width of the widest line and the height of all.
@@ -33,7 +26,13 @@ class WrappedText {
   void paint(QPainter& painter, const QRectF& area, const QColor& color) const;
 
  private:
-  std::vector<std::unique_ptr<QTextLayout>> lines;
+  struct Line {
+    QString text;
+    QSizeF size;
+  };
+
+  QFont font;
+  std::vector<Line> lines;
   Qt::Alignment place;
 };
 

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <memory>
 
+#include "BuiltInFonts.h"
+
 namespace vantorel {
 namespace {
 
@@ -16,6 +18,7 @@ class ApplicationEnvironment : public testing::Environment {
       qunsetenv(variable);
     }
     application = std::make_unique<QApplication>(count, arguments);
+    useBuiltInFonts();
   }
 
   void TearDown() override { application.reset(); }

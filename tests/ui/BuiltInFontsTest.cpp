@@ -1,0 +1,89 @@
+#include "BuiltInFonts.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QTextLayout>
+#include <algorithm>
+#include <filesystem>
+
+#include "Typography.h"
+
+namespace vantorel {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The number of characters of `text` for which no font has a picture.
+qsizetype missingGlyphs(const QString& text) {
+  QTextLayout layout(text, monospaced());
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  qsizetype missing = 0;
+  for (const QGlyphRun& run : layout.glyphRuns()) missing += run.glyphIndexes().count(0);
+  return missing;
+}
+
+class BuiltInFonts : public testing::Test {
+ protected:
+  ~BuiltInFonts() override { useBuiltInFonts(); }
+};
+
+TEST_F(BuiltInFonts, AreTheOnlyOnes) {
+  for (const char* family : {"DejaVu Sans Mono", "DejaVu Sans", "WenQuanYi Micro Hei", "Noto Color Emoji"})
+    EXPECT_TRUE(QFontDatabase::hasFamily(family)) << family;
+  EXPECT_EQ(missingGlyphs("Ж"), 1)
+      << "which none of them has, but the font of the system that this one is from";
+}
+
+TEST_F(BuiltInFonts, HaveEveryCharacterOfTheProgram) {
+  QString characters;
+  for (const auto& entry : fs::recursive_directory_iterator(VANTOREL_SOURCE_DIR "/src")) {
+    if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h") continue;
+    QFile file(QString::fromStdString(entry.path()));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) characters += line;
+  }
+  EXPECT_TRUE(characters.contains("万")) << "the texts were read";
+  EXPECT_TRUE(isInBuiltInFonts(characters));
+  EXPECT_EQ(missingGlyphs(characters), 0);
+}
+
+TEST_F(BuiltInFonts, HaveEveryLatinLetter) {
+  for (ushort letter = 0x20; letter <= 0x17F; ++letter) {
+    if (letter == 0x7F) letter = 0xA0;
+    EXPECT_TRUE(isInBuiltInFonts(QChar(letter))) << letter;
+  }
+}
+
+TEST_F(BuiltInFonts, SayWhatTheyLack) {
+  EXPECT_TRUE(isInBuiltInFonts(""));
+  EXPECT_TRUE(isInBuiltInFonts("Xbox 手柄 🎮"));
+  EXPECT_FALSE(isInBuiltInFonts("Xbox Ж"));
+  EXPECT_FALSE(isInBuiltInFonts("🦄"));
+}
+
+TEST_F(BuiltInFonts, AreEnoughForMostForeignTexts) {
+  EXPECT_EQ(foreignText("Xbox Wireless Controller® ü"), QString("Xbox Wireless Controller® ü"));
+  EXPECT_EQ(missingGlyphs("Ж"), 1) << "nobody needed the fonts of the system";
+}
+
+TEST_F(BuiltInFonts, AreJoinedByThoseOfTheSystemWhenATextNeedsThem) {
+  EXPECT_EQ(foreignText("Геймпад Ж"), QString("Геймпад Ж"));
+  EXPECT_EQ(missingGlyphs("Геймпад Ж"), 0);
+  EXPECT_EQ(missingGlyphs("A 中文 手柄 🎮 ⌘"), 0);
+}
+
+TEST_F(BuiltInFonts, DrawWarningsAndKeyboardsAsPictures) {
+  QTextLayout layout("⚠⌨", monospaced());
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  for (const QGlyphRun& run : layout.glyphRuns()) EXPECT_EQ(run.rawFont().familyName(), "Noto Color Emoji");
+}
+
+}  // namespace
+}  // namespace vantorel
