@@ -6,6 +6,7 @@
 #include "NoDesktop.h"
 #include "QtArguments.h"
 #include "RemoteControl.h"
+#include "SessionBus.h"
 #include "SignalWatcher.h"
 #include "StandardError.h"
 #include "VantorelApp.h"
@@ -24,7 +25,8 @@ int run(const RunHeadless& command) {
 
   VantorelApp app(platform);
   WindowState* window = nullptr;
-  const RemoteControl remote({[&window] { window->toggle(); }, nullptr, [] { QCoreApplication::quit(); }});
+  const RemoteControl remote(connectToSessionBus(),
+                             {[&window] { window->toggle(); }, nullptr, [] { QCoreApplication::quit(); }});
   if (remote.state() == RemoteControl::State::anotherIsRunning) {
     complain("it is running already; end that one with --quit");
     return 1;

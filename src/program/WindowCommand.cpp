@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QThread>
 #include <exception>
+#include <future>
 #include <memory>
 
 #include "BuiltInFonts.h"
@@ -7,6 +9,7 @@
 #include "HeldKeyFilter.h"
 #include "RemoteControl.h"
 #include "RetroStyle.h"
+#include "SessionBus.h"
 #include "StandardError.h"
 #include "Typography.h"
 #include "WindowProgram.h"
@@ -30,7 +33,14 @@ int showRunningProgram() {
   return 1;
 }
 
+/// Lets the session's bus answer while the display does: both take their time.
+std::future<QDBusConnection> beginToConnectToBus() {
+  QThread::currentThread();  // Qt takes the first thread that it meets for that of the application
+  return std::async(std::launch::async, connectToSessionBus);
+}
+
 void describeApplication() {
+  QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);  // it would ask the message bus for one
   QApplication::setStyle(new RetroStyle);
   QApplication::setFont(monospaced());
   QApplication::setApplicationName("Vantorel");
@@ -45,6 +55,7 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
+  std::future<QDBusConnection> bus = beginToConnectToBus();
   QApplication application(argumentCount, arguments);
   useBuiltInFonts();
   HeldKeyFilter heldKeys;
@@ -52,8 +63,8 @@ int openWindow(int& argumentCount, char** arguments) {
   describeApplication();
   try {
     std::unique_ptr<WindowProgram> program;  // calls from outside arrive when it runs
-    const RemoteControl remote(
-        {[&] { program->toggle(); }, [&] { program->showWindow(); }, [] { QCoreApplication::quit(); }});
+    const RemoteControl remote(bus.get(), {[&] { program->toggle(); }, [&] { program->showWindow(); },
+                                           [] { QCoreApplication::quit(); }});
     if (remote.state() == RemoteControl::State::anotherIsRunning) return showRunningProgram();
     program = std::make_unique<WindowProgram>(isSet("DISPLAY") ? LinuxMachine::Injection::x11
                                                                : LinuxMachine::Injection::none);

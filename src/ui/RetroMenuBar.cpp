@@ -18,7 +18,6 @@ constexpr int barHeight = 26;
 
 RetroMenuBar::RetroMenuBar(QWidget* parent) : QMenuBar(parent) {
   setFont(monospaced(textSize, QFont::Bold));
-  setNativeMenuBar(false);
   setFixedHeight(barHeight);  // in every language
 }
 

@@ -9,6 +9,7 @@
 #include "ProcessOutput.h"
 #include "RemoteCommand.h"
 #include "RemoteControl.h"
+#include "SessionBus.h"
 #include "SettingsFile.h"
 #include "SignalWatcher.h"
 
@@ -45,7 +46,7 @@ int serveRemote(bool isHeadless) {
   handlers.toggle = [] { std::cout << "toggled" << std::endl; };
   if (!isHeadless) handlers.show = [] { std::cout << "shown" << std::endl; };
   handlers.quit = [] { std::_Exit(7); };
-  const RemoteControl control(handlers);
+  const RemoteControl control(connectToSessionBus(), handlers);
   std::cout << nameOf(control.state()) << std::endl;
   return QCoreApplication::exec();
 }

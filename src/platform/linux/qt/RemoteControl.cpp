@@ -56,8 +56,8 @@ class RemoteObject : public QObject, protected QDBusContext {
 
 }  // namespace
 
-RemoteControl::RemoteControl(Handlers handlers)
-    : bus(connectToSessionBus()),
+RemoteControl::RemoteControl(QDBusConnection connection, Handlers handlers)
+    : bus(std::move(connection)),
       object(std::make_unique<RemoteObject>(std::move(handlers))),
       result(claim()) {}
 

@@ -29,7 +29,8 @@ class RemoteControl {
     noSessionBus,  ///< nobody can reach this program, and it does not know of others
   };
 
-  explicit RemoteControl(Handlers handlers);
+  /// At `connection`, the result of `connectToSessionBus`, which it ends with itself.
+  RemoteControl(QDBusConnection connection, Handlers handlers);
   RemoteControl(const RemoteControl&) = delete;
   RemoteControl& operator=(const RemoteControl&) = delete;
   ~RemoteControl();

@@ -11,7 +11,8 @@ inline const QString remotePath = QStringLiteral("/org/vantorel/Vantorel");
 inline const QString remoteInterface = QStringLiteral("org.vantorel.RemoteControl");
 
 /// A new connection to the session's message bus; not connected when the session has none. Unlike
-/// QDBusConnection::sessionBus() it never starts a bus where there is none.
+/// QDBusConnection::sessionBus() it never starts a bus where there is none. Any thread, also before there is
+/// an application.
 QDBusConnection connectToSessionBus();
 
 /// Ends a connection made by connectToSessionBus().
