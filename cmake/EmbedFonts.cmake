@@ -5,8 +5,9 @@ find_program(HB_SUBSET hb-subset REQUIRED)
 find_program(FC_MATCH fc-match REQUIRED)
 
 # find_font(FILE INDEX PATTERN): the file of the installed font that fontconfig's PATTERN names, and its number there.
+# The name is the English one, also where fontconfig would prefer another.
 function(find_font file index pattern)
-  execute_process(COMMAND ${FC_MATCH} --format "%{file};%{index};%{family[0]}" "${pattern}"
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env FC_LANG=en ${FC_MATCH} --format "%{file};%{index};%{family[0]}" "${pattern}"
                   OUTPUT_VARIABLE match COMMAND_ERROR_IS_FATAL ANY)
   list(GET match 2 family)
   string(REGEX REPLACE ":.*" "" wanted "${pattern}")
@@ -40,7 +41,7 @@ function(embed_fonts target sources)
     if(NOT pattern MATCHES "Emoji")
       set(without "--unicodes-=${pictures}")
     endif()
-    add_custom_command(OUTPUT "${font}" DEPENDS "${characters}" "${file}" VERBATIM
+    add_custom_command(OUTPUT "${font}" DEPENDS "${characters}" VERBATIM
       COMMAND ${HB_SUBSET} --font-file=${file} --face-index=${index} --output-file=${font}
               --unicodes=U+0020-007E,U+00A0-017F --text-file=${characters} ${without})
     list(APPEND fonts "${font}")
