@@ -1,6 +1,5 @@
 #include "Lettering.h"
 
-#include <QGlyphRun>
 #include <QStringList>
 #include <QTextLayout>
 #include <QTextOption>
@@ -60,6 +59,9 @@ QRawFont chineseOf(QFont font) {
   return QRawFont::fromFont(font);
 }
 
+/// A name from outside may have a Chinese character that is in another font.
+bool lacksGlyph(const QGlyphRun& run) { return run.glyphIndexes().contains(0); }
+
 double advanceOf(const QRawFont& font, QChar character) {
   return font.advancesForGlyphIndexes(font.glyphIndexesForString(character)).constFirst().x();
 }
@@ -91,9 +93,17 @@ std::vector<double> Lettering::pens(const QString& line) const {
 }
 
 void Lettering::draw(QPainter& painter, QPointF corner, const QString& line) const {
-  if (!isPlain(line)) return LaidOutLine(line, font).draw(painter, corner);
-  corner.ry() += ascent(line);
+  const QList<QGlyphRun> parts = isPlain(line) ? runs(line) : QList<QGlyphRun>();
+  if (parts.isEmpty() || std::any_of(parts.begin(), parts.end(), lacksGlyph)) {
+    LaidOutLine(line, font).draw(painter, corner);
+    return;
+  }
+  for (const QGlyphRun& part : parts) painter.drawGlyphRun(corner + QPointF(0, ascent(line)), part);
+}
+
+QList<QGlyphRun> Lettering::runs(const QString& line) const {
   const std::vector<double> places = pens(line);
+  QList<QGlyphRun> result;
   for (qsizetype begin = 0, end = 0; begin < line.size(); begin = end) {
     const bool chinese = isChinese(line[begin]);
     QList<QPointF> positions;
@@ -103,8 +113,9 @@ void Lettering::draw(QPainter& painter, QPointF corner, const QString& line) con
     run.setRawFont(chinese ? chineseOf(font) : letters);
     run.setGlyphIndexes(run.rawFont().glyphIndexesForString(line.mid(begin, end - begin)));
     run.setPositions(positions);
-    painter.drawGlyphRun(corner, run);
+    result += run;
   }
+  return result;
 }
 
 double Lettering::ascent(const QString& line) const {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QFont>
+#include <QGlyphRun>
+#include <QList>
 #include <QPainter>
 #include <QPointF>
 #include <QRawFont>
@@ -27,6 +29,7 @@ class Lettering {
   void draw(QPainter& painter, QPointF corner, const QString& line) const;
 
  private:
+  QList<QGlyphRun> runs(const QString& line) const;
   double ascent(const QString& line) const;
   double overhang(QChar last) const;
 

@@ -62,6 +62,7 @@ TEST_F(BuiltInFonts, HaveEveryLatinLetter) {
 TEST_F(BuiltInFonts, SayWhatTheyLack) {
   EXPECT_TRUE(isInBuiltInFonts(""));
   EXPECT_TRUE(isInBuiltInFonts("Xbox 手柄 🎮"));
+  EXPECT_TRUE(isInBuiltInFonts("a tab\tand a line\n"));
   EXPECT_FALSE(isInBuiltInFonts("Xbox Ж"));
   EXPECT_FALSE(isInBuiltInFonts("🦄"));
 }
@@ -82,7 +83,11 @@ TEST_F(BuiltInFonts, DrawWarningsAndKeyboardsAsPictures) {
   layout.beginLayout();
   layout.createLine();
   layout.endLayout();
-  for (const QGlyphRun& run : layout.glyphRuns()) EXPECT_EQ(run.rawFont().familyName(), "Noto Color Emoji");
+  ASSERT_EQ(layout.glyphRuns().size(), 1);
+  const QGlyphRun run = layout.glyphRuns().constFirst();
+  EXPECT_EQ(run.rawFont().familyName(), "Noto Color Emoji");
+  EXPECT_EQ(run.glyphIndexes().size(), 2);
+  EXPECT_FALSE(run.glyphIndexes().contains(0));
 }
 
 }  // namespace

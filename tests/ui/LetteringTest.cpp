@@ -117,5 +117,23 @@ TEST_P(LetteringIn, DrawsAsQtDoes) {
   }
 }
 
+/// In cells and squares as they are, where a layout would count what its glyphs have.
+TEST(Lettering, MeasuresWithoutALayout) {
+  const QFont font = monospaced(10);
+  const Lettering lettering(font);
+  const std::vector<double> pens = lettering.pens("M⌘龘龘");  // the last is in no built-in font
+  EXPECT_DOUBLE_EQ(pens.at(2), 2 * pens.at(1));
+  EXPECT_DOUBLE_EQ(pens.at(4), pens.at(2) + 20);
+}
+
+TEST(Lettering, DrawsChineseOfOtherFontsAsQtDoes) {
+  const QFont font = monospaced(13);
+  const QString name = "小米 手柄 龘";
+  const QImage expected = drawn(1, [&](QPainter& painter) {
+    Layout(name, font).line().draw(&painter, {10, 5});
+  });
+  EXPECT_EQ(drawn(1, [&](QPainter& painter) { Lettering(font).draw(painter, {10, 5}, name); }), expected);
+}
+
 }  // namespace
 }  // namespace vantorel
