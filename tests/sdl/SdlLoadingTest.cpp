@@ -122,11 +122,11 @@ TEST_F(SdlLoading, OnceDoneLetsTheBackgroundEventsFollowAtOnce) {
 }
 
 TEST_F(SdlLoading, ThatFailsIsReportedAndLeavesTheListEmpty) {
-  EXPECT_THAT(reportFor("vantorel-missing.so"), HasSubstr("/vantorel-missing.so: cannot open"));
+  EXPECT_THAT(reportFor("vantorel-missing.so"), HasSubstr("/vantorel-missing.so"));
 }
 
 TEST_F(SdlLoading, OfAnotherLibraryIsReportedAsWell) {
-  EXPECT_THAT(reportFor("libudev.so.1"), HasSubstr("vantorel: controllers are not available: "));
+  EXPECT_THAT(reportFor("/proc/self/exe"), HasSubstr("cannot dynamically load"));
 }
 
 }  // namespace

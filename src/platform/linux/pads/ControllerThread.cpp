@@ -3,14 +3,13 @@
 #include <poll.h>
 #include <pthread.h>
 
-#include <algorithm>
 #include <array>
 #include <csignal>
 #include <iostream>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
-#include "ConnectionOrder.h"
 #include "PadModule.h"
 #include "PadPresence.h"
 
@@ -24,23 +23,22 @@ void blockSignals() {
   pthread_sigmask(SIG_BLOCK, &all, nullptr);
 }
 
-std::unique_ptr<PadLoop> startLoop(const std::string& module, const PadLoopContext& context) {
+/// What `attempt` gives; without a value, and with a word on standard error, when it fails.
+template <class Attempt>
+auto reportingFailure(Attempt attempt) -> decltype(attempt()) {
   try {
-    return loadPadLoop(module, context);
+    return attempt();
   } catch (const std::runtime_error& error) {
     std::cerr << "vantorel: controllers are not available: " << error.what() << std::endl;
-    return nullptr;
+    return {};
   }
 }
 
-/// The pads that are there, the one connected first in front; `connected` is not called for them.
+/// The pads that are there; `connected` is not called for them.
 std::vector<std::shared_ptr<LinuxController>> takePads(PadLoop& loop, PadEvents events) {
   std::vector<std::shared_ptr<LinuxController>> found;
   events.connected = [&](const std::shared_ptr<LinuxController>& controller) { found.push_back(controller); };
   loop.look(events);
-  std::stable_sort(found.begin(), found.end(), [](const auto& one, const auto& other) {
-    return connectionOrder(one->node()) < connectionOrder(other->node());
-  });
   return found;
 }
 
@@ -67,6 +65,8 @@ void ControllerThread::setMonitorsBackground(bool should) {
 void ControllerThread::run(const PadEvents& events, const PadPlaces& places, std::promise<Pads> found) {
   blockSignals();
   pthread_setname_np(pthread_self(), "controllers");
+  const auto module = reportingFailure([&] { return std::make_optional<PadModule>(places.module); });
+  if (!module) return found.set_value({});
   DeviceMonitor monitor(places.nodes);  // before the first question, so that no pad slips in between
   const bool mayPadBeThereAtStart = mayPadBeThere(places);
   if (!mayPadBeThereAtStart) {
@@ -75,7 +75,8 @@ void ControllerThread::run(const PadEvents& events, const PadPlaces& places, std
     if (isStopping_.load()) return;
   }
   isSdlWanted_.store(true);
-  const auto loop = startLoop(places.module, {commands_, monitor, monitorsBackground_, events});
+  const PadLoopContext context{commands_, monitor, monitorsBackground_, events};
+  const auto loop = reportingFailure([&] { return module->makeLoop(context); });
   if (mayPadBeThereAtStart) {
     found.set_value(loop ? takePads(*loop, events) : Pads{});
   } else if (loop) {

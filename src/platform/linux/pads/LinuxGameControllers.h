@@ -45,7 +45,8 @@ class LinuxGameControllers final : public GameControllers {
   /// The same controllers as `controllers()`, with what is known of them here. Main thread.
   const std::vector<std::shared_ptr<LinuxController>>& linuxControllers();
 
-  /// Lets SDL look at its devices although nothing called for it. For tests; any thread.
+  /// Lets SDL look at its devices although nothing called for it, and loads it for that. For tests; any
+  /// thread.
   void wake();
 
   /// Runs `block` on SDL's thread, where SDL's own functions may be called, and then lets SDL look. For

@@ -26,7 +26,8 @@ class PadLoop {
   PadLoop& operator=(const PadLoop&) = delete;
   virtual ~PadLoop() = default;
 
-  /// Finds the pads that are already there and tells `events` of them. To be called once, before the turns.
+  /// Finds the pads that are already there and tells `events` of them, the one connected first in front. To
+  /// be called once, before the turns.
   virtual void look(const PadEvents& events) = 0;
 
   /// Sleeps until something happens and carries it out.

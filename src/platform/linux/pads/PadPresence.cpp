@@ -23,10 +23,11 @@ bool isSandbox() {
 
 bool isAnyNodeIn(const std::filesystem::path& directory) {
   std::error_code error;
-  const std::filesystem::directory_iterator nodes(directory, error);
-  return std::any_of(begin(nodes), end(nodes), [](const std::filesystem::directory_entry& node) {
-    return node.path().filename().string().starts_with("event");
-  });
+  std::filesystem::directory_iterator node(directory, error);
+  for (; !error && node != end(node); node.increment(error)) {
+    if (node->path().filename().string().starts_with("event")) return true;
+  }
+  return false;
 }
 
 std::map<std::string, std::string> propertiesOf(udev_device& device) {

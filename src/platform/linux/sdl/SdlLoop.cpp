@@ -54,7 +54,7 @@ void SdlLoop::carryOutCommands() {
   CommandQueue::Command command;
   do {
     command = context_.commands.pop();
-    session_.setMonitorsBackground(context_.monitorsBackground.load());  // as it was when `command` came
+    session_.setMonitorsBackground(context_.monitorsBackground.load());  // at least as new as `command`
     if (command) {
       command();
       pads_.update(context_.events);

@@ -1,7 +1,10 @@
 #include "SdlPads.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
+
+#include "ConnectionOrder.h"
 
 namespace vantorel {
 
@@ -80,16 +83,20 @@ void SdlPads::closeMissing(const PadEvents& events) {
 }
 
 bool SdlPads::openNew(const PadEvents& events) {
-  bool anyOpened = false;
+  std::vector<std::shared_ptr<LinuxController>> opened;
   for (int index = 0; index < SDL_NumJoysticks(); ++index) {
     const auto [entry, isNew] = pads_.try_emplace(SDL_JoystickGetDeviceInstanceID(index));
     if (!isNew) continue;
     entry->second = SdlPad::open(index);
     if (!entry->second) continue;
-    anyOpened = true;
-    events.connected(entry->second->controller());
+    opened.push_back(entry->second->controller());
   }
-  return anyOpened;
+  // SDL has them in the order of their names.
+  std::stable_sort(opened.begin(), opened.end(), [](const auto& one, const auto& other) {
+    return connectionOrder(one->node()) < connectionOrder(other->node());
+  });
+  for (const auto& controller : opened) events.connected(controller);
+  return !opened.empty();
 }
 
 }  // namespace vantorel

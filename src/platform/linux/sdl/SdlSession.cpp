@@ -26,6 +26,7 @@ SdlSession::SdlSession() {
   require(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
   require(SDL_HINT_JOYSTICK_HIDAPI, "0");  // it would read the pads past their nodes, and in a thread
   require(SDL_HINT_AUTO_UPDATE_JOYSTICKS, "1");
+  require(SDL_HINT_ACCELEROMETER_AS_JOYSTICK, "0");
   require(SDL_HINT_GAMECONTROLLER_USE_BUTTON_LABELS, "0");  // A is the bottom button on every pad
   watchDirectoryWithoutUdev();
   if (SDL_Init(SDL_INIT_GAMECONTROLLER) != 0) throw std::runtime_error(SDL_GetError());
