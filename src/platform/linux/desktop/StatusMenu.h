@@ -13,6 +13,10 @@ namespace vantorel {
 class StatusMenu : public QMenu {
  public:
   explicit StatusMenu(MainQueue& mainQueue) : queue(mainQueue) {}
+  StatusMenu(const StatusMenu&) = delete;
+  StatusMenu& operator=(const StatusMenu&) = delete;
+  /// Takes the entries away first: Qt would leave behind what it has made of them for the bus.
+  ~StatusMenu() override { clear(); }
 
   /// Replaces all entries. Chosen actions are posted to the main queue.
   void setEntries(const Menu& entries);
