@@ -2,7 +2,6 @@
 
 #include <QTextBoundaryFinder>
 #include <algorithm>
-#include <limits>
 
 #include "Lettering.h"
 
@@ -148,10 +147,6 @@ void WrappedText::paint(QPainter& painter, const QRectF& area, const QColor& col
     lettering.draw(painter, {x, y}, line.text);
     y += line.size.height();
   }
-}
-
-double unbrokenWidth(const QString& text, const QFont& font) {
-  return WrappedText(text, font, std::numeric_limits<double>::infinity()).size().width();
 }
 
 double widestPart(const QString& text, const QFont& font) {

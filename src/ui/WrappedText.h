@@ -36,9 +36,6 @@ class WrappedText {
   Qt::Alignment place;
 };
 
-/// The width of `text` where nothing but its own line breaks ends a line.
-double unbrokenWidth(const QString& text, const QFont& font);
-
 /// The width of the widest part of `text` that only the last resort would break.
 double widestPart(const QString& text, const QFont& font);
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "Typography.h"
 
 namespace vantorel {
@@ -36,7 +38,9 @@ int lineCount(const QString& text, double width) {
   return WrappedText(text, monospaced(10), width).lineCount();
 }
 
-double widthOf(const char* text) { return unbrokenWidth(QString(text), monospaced(10)); }
+double widthOf(const char* text) {
+  return WrappedText(QString(text), monospaced(10), std::numeric_limits<double>::infinity()).size().width();
+}
 
 TEST(WrappedText, BreaksNamesAfterTheirUnderscores) {
   EXPECT_EQ(lineCount("DOWNLOAD_DRIVER", widthOf("DOWNLOAD_DRIVER")), 1);
@@ -84,7 +88,7 @@ TEST(WrappedText, DropsTheBlanksAtTheEndOfALine) {
 
 TEST(WrappedText, KeepsItsOwnLineBreaks) {
   EXPECT_EQ(lineCount("one\ntwo\n\nfour", 500), 4);
-  EXPECT_DOUBLE_EQ(unbrokenWidth("one\nthree", monospaced(10)), widthOf("three"));
+  EXPECT_DOUBLE_EQ(widthOf("one\nthree"), widthOf("three"));
 }
 
 TEST(WrappedText, NeverTearsACharacterApart) {
