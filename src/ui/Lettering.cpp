@@ -6,11 +6,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Typography.h"
+
 namespace vantorel {
 
 namespace {
 
-/// The ascent of WenQuanYi Micro Hei, as a part of its em; it descends less than the letters do.
+/// The ascent of the Chinese family, as a part of its em; it descends less than the letters do.
 constexpr double chineseAscent = 1918.0 / 2048;
 
 bool isBetween(QChar character, char16_t first, char16_t last) {
@@ -55,7 +57,7 @@ class LaidOutLine {
 };
 
 QRawFont chineseOf(QFont font) {
-  font.setFamilies(QStringList(QStringLiteral("WenQuanYi Micro Hei")));
+  font.setFamilies(QStringList(chineseFamily));
   return QRawFont::fromFont(font);
 }
 

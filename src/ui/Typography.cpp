@@ -6,10 +6,9 @@ namespace vantorel {
 
 namespace {
 
-/// With Chinese, which is clear in small sizes, also in bold, and emoji.
 QFont fontOf(const QString& family, int points, QFont::Weight weight) {
   QFont font;
-  font.setFamilies({family, QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("Noto Color Emoji")});
+  font.setFamilies({family, chineseFamily, QStringLiteral("Noto Color Emoji")});
   font.setPixelSize(points);
   font.setWeight(weight);
   font.setHintingPreference(QFont::PreferNoHinting);  // every letter in its own shape at every scale
