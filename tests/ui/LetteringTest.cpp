@@ -4,34 +4,15 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QTextLayout>
-#include <QTextOption>
 
 #include "GamepadButton.h"
 #include "KeyboardKey.h"
+#include "QtLayout.h"
 #include "TextLine.h"
 #include "Typography.h"
 
 namespace vantorel {
 namespace {
-
-/// The line as Qt lays it out.
-class Layout {
- public:
-  Layout(const QString& text, const QFont& font) : layout(text, font) {
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    layout.createLine();
-    layout.endLayout();
-  }
-
-  QTextLine line() const { return layout.lineAt(0); }
-
- private:
-  QTextLayout layout;
-};
 
 QStringList lines() {
   QStringList all{"",
@@ -73,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(Lettering, LetteringIn,
 TEST_P(LetteringIn, MeasuresAsQtLaysOut) {
   constexpr double roundingOfGlyphs = 1;  // an outline that is made bold
   for (const QString& text : lines() + unusualLines()) {
-    const Layout layout(text, font);
+    const QtLayout layout(text, font);
     EXPECT_NEAR(lettering.size(text).width(), layout.line().naturalTextWidth(), roundingOfGlyphs)
         << text.toStdString();
     EXPECT_DOUBLE_EQ(lettering.size(text).height(), layout.line().height()) << text.toStdString();
@@ -82,7 +63,7 @@ TEST_P(LetteringIn, MeasuresAsQtLaysOut) {
 
 TEST_P(LetteringIn, KnowsWhereEachCharacterBegins) {
   for (const QString& text : lines() + unusualLines()) {
-    const Layout layout(text, font);
+    const QtLayout layout(text, font);
     const std::vector<double> pens = lettering.pens(text);
     ASSERT_EQ(pens.size(), static_cast<std::size_t>(text.size()) + 1);
     for (int index = 0; index <= text.size(); ++index) {
@@ -109,7 +90,7 @@ TEST_P(LetteringIn, DrawsAsQtDoes) {
   constexpr QPointF corner(10, 5);
   for (const double scale : {1.0, 1.5, 2.0}) {
     for (const QString& text : lines() + unusualLines()) {
-      const Layout layout(text, font);
+      const QtLayout layout(text, font);
       const QImage expected = drawn(scale, [&](QPainter& painter) { layout.line().draw(&painter, corner); });
       EXPECT_EQ(drawn(scale, [&](QPainter& painter) { lettering.draw(painter, corner, text); }), expected)
           << text.toStdString() << " at " << scale;
@@ -130,7 +111,7 @@ TEST(Lettering, DrawsChineseOfOtherFontsAsQtDoes) {
   const QFont font = monospaced(13);
   const QString name = "小米 手柄 龘";
   const QImage expected = drawn(1, [&](QPainter& painter) {
-    Layout(name, font).line().draw(&painter, {10, 5});
+    QtLayout(name, font).line().draw(&painter, {10, 5});
   });
   EXPECT_EQ(drawn(1, [&](QPainter& painter) { Lettering(font).draw(painter, {10, 5}, name); }), expected);
 }
