@@ -55,8 +55,8 @@ void addBuiltInFonts() {
 /// Makes the fonts of `configuration` those of the program, with the built-in ones of families that it lacks:
 /// its own have more characters.
 void use(const Configuration& configuration) {
-  QFontDatabase::removeAllApplicationFonts();  // makes Qt look at the configuration, if it had looked at
-                                               // another
+  // Qt looks at another configuration only after fonts were taken away.
+  QFontDatabase::removeAllApplicationFonts();
   FcConfigSetCurrent(configuration.get());
   addBuiltInFonts();
 }

@@ -61,6 +61,7 @@ void MappingRow::describe() {
   setAccessibleDescription((content.key ? chooseHelp : unmappedHelp).in(content.language));
 }
 
+/// The list gives it all of its width, where the longest name of a key has room.
 QSize MappingRow::sizeHint() const { return {2 * leftCellWidth, rowHeight}; }
 
 void MappingRow::paintEvent(QPaintEvent* /*event*/) {
