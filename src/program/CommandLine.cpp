@@ -113,6 +113,9 @@ class Parser {
 
 }  // namespace
 
-Command parseCommandLine(const std::vector<std::string>& arguments) { return Parser().parse(arguments); }
+Command parseCommandLine(const std::vector<std::string>& arguments) {
+  if (arguments.empty()) return OpenWindow{};  // the usual start needs no parser to be built
+  return Parser().parse(arguments);
+}
 
 }  // namespace vantorel

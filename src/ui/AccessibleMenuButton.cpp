@@ -36,8 +36,9 @@ class AccessibleMenuButton : public AccessibleButton {
 };
 
 QAccessibleInterface* menuButton(const QString& /*className*/, QObject* object) {
-  auto* const menu = object->property(menuProperty).value<QMenu*>();
-  return menu == nullptr ? nullptr : new AccessibleMenuButton(qobject_cast<QPushButton*>(object), menu);
+  auto* const button = qobject_cast<QPushButton*>(object);
+  auto* const menu = button == nullptr ? nullptr : button->property(menuProperty).value<QMenu*>();
+  return menu == nullptr ? nullptr : new AccessibleMenuButton(button, menu);
 }
 
 }  // namespace

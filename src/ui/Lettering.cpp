@@ -84,6 +84,7 @@ QSizeF Lettering::size(const QString& line) const {
 
 std::vector<double> Lettering::pens(const QString& line) const {
   std::vector<double> result{0};
+  result.reserve(static_cast<std::size_t>(line.size()) + 1);
   if (!isPlain(line)) {
     const LaidOutLine laidOut(line, font);
     for (int index = 1; index <= line.size(); ++index) result.push_back(laidOut.line().cursorToX(index));
