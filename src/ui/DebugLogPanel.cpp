@@ -3,8 +3,10 @@
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include "BilingualText.h"
 #include "BuiltInFonts.h"
@@ -24,6 +26,13 @@ constexpr BilingualText name{"Debug log", "调试日志"};
 constexpr BilingualText hint{"Shows what the program did last, the newest line first.",
                              "显示程序最近的操作，最新的一行在最前。"};
 
+/// For a full log of lines that do not wrap. The card never grows; longer logs scroll.
+int logHeight() {
+  constexpr int spare = 1;  // without it the view would scroll by a line
+  const double line = Lettering(RetroTextView::textFont()).size(QString::fromUtf8(tallestLine)).height();
+  return static_cast<int>(std::ceil(lineCapacity * line)) + 2 * RetroTextView::margin + spare;
+}
+
 /// How many lines stand in `now` before those that were there `before`, as far as they are still there.
 qsizetype newLines(const QStringList& now, const QStringList& before) {
   qsizetype fresh = 0;
@@ -39,29 +48,42 @@ qsizetype newLines(const QStringList& now, const QStringList& before) {
 DebugLogPanel::DebugLogPanel(WindowState& windowState, QWidget* parent)
     : CardFrame(retroCard(AppTheme::borderColor()), parent),
       state(windowState),
-      tag(new SectionTag(QString::fromUtf8(tagText), this)),
-      log(new RetroTextView(this)) {
+      tag(new SectionTag(QString::fromUtf8(tagText), this)) {
   contentLayout()->setSpacing(lineSpacing);
   contentLayout()->addWidget(tag);
+  contentLayout()->addSpacing(lineSpacing + logHeight());
+}
+
+void DebugLogPanel::showEvent(QShowEvent* /*event*/) {
+  if (log == nullptr) window()->installEventFilter(this);
+}
+
+/// Waits for the first frame of the window: the log itself comes after it, as its emoji take long to read.
+bool DebugLogPanel::eventFilter(QObject* shownWindow, QEvent* event) {
+  if (event->type() == QEvent::Paint) {
+    shownWindow->removeEventFilter(this);
+    QTimer::singleShot(0, this, &DebugLogPanel::makeLog);
+  }
+  return false;
+}
+
+void DebugLogPanel::makeLog() {
+  const std::unique_ptr<QLayoutItem> emptyRoom(contentLayout()->takeAt(contentLayout()->count() - 1));
+  log = new RetroTextView(this);
+  log->setFixedHeight(logHeight());
   contentLayout()->addWidget(log);
-  reserveRoom();
-  updates.follow([this] { refresh(); }, state.controllerManager.debugLogs,
-                 state.localization.currentLanguage());
+  log->show();  // at once, as its panel shows already
+  nameUpdates.follow([this] { describe(); }, state.localization.currentLanguage());
+  lineUpdates.follow([this] { refresh(); }, state.controllerManager.debugLogs);
 }
 
-/// For a full log of lines that do not wrap. The card never grows; longer logs scroll.
-void DebugLogPanel::reserveRoom() {
-  const double line = Lettering(log->font()).size(QString::fromUtf8(tallestLine)).height();
-  const double rows = lineCapacity * line;
-  const double margins = 2 * (log->document()->documentMargin() + log->frameWidth());
-  constexpr int spare = 1;  // without it the view would scroll by a line
-  log->setFixedHeight(static_cast<int>(std::ceil(rows + margins)) + spare);
-}
-
-void DebugLogPanel::refresh() {
+void DebugLogPanel::describe() {
   const AppLanguage language = state.localization.currentLanguage();
   tag->setToolTip(hint.in(language));
   log->setAccessibleName(name.in(language));
+}
+
+void DebugLogPanel::refresh() {
   QStringList lines;
   for (const std::string& line : state.controllerManager.debugLogs.get()) lines += foreignText(line);
   showLines(lines);

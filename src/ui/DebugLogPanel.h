@@ -17,8 +17,13 @@ class DebugLogPanel : public CardFrame {
   /// `windowState` outlives the widget.
   explicit DebugLogPanel(WindowState& windowState, QWidget* parent = nullptr);
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* shownWindow, QEvent* event) override;
+
  private:
-  void reserveRoom();
+  void makeLog();
+  void describe();
   void refresh();
   void showLines(const QStringList& lines);
   void prepend(const QStringList& lines);
@@ -26,9 +31,10 @@ class DebugLogPanel : public CardFrame {
 
   WindowState& state;
   SectionTag* tag;
-  RetroTextView* log;
+  RetroTextView* log = nullptr;  ///< not before the first frame
   QStringList shown;
-  ViewUpdates updates;
+  ViewUpdates nameUpdates;
+  ViewUpdates lineUpdates;
 };
 
 }  // namespace vantorel

@@ -23,9 +23,10 @@ RetroTextView::RetroTextView(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setUndoRedoEnabled(false);
   setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  setFont(monospaced(captionSize));
+  setFont(textFont());
   setFrameShape(QFrame::Box);
   setLineWidth(outlineWidth);
+  document()->setDocumentMargin(margin - frameWidth());
   setVerticalScrollBar(new RetroScrollBar(Qt::Vertical, this));
   QPalette colors = palette();
   colors.setColor(QPalette::Base, AppTheme::cardBackground());
@@ -34,6 +35,8 @@ RetroTextView::RetroTextView(QWidget* parent) : QPlainTextEdit(parent) {
   colors.setColor(QPalette::HighlightedText, Qt::white);
   setPalette(colors);
 }
+
+QFont RetroTextView::textFont() { return monospaced(captionSize); }
 
 bool RetroTextView::event(QEvent* event) {
   const bool focusMoved = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;

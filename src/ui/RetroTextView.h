@@ -10,6 +10,9 @@ class RetroTextView : public QPlainTextEdit {
  public:
   explicit RetroTextView(QWidget* parent = nullptr);
 
+  static QFont textFont();
+  static constexpr int margin = 8;  ///< around the text, with the outline
+
  protected:
   bool event(QEvent* event) override;
 };

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QScrollBar>
 #include <QTest>
+#include <utility>
 
 #include "OpenWindow.h"
 
@@ -61,6 +63,34 @@ TEST_F(DebugLogPanelTest, NeitherGrowsNorScrollsWhenItIsFull) {
   writeLines(30);
   EXPECT_EQ(log().parentWidget()->geometry(), place);
   EXPECT_EQ(log().verticalScrollBar()->maximum(), 0);
+}
+
+/// Looks whether the log is there when a window is painted for the first time.
+class FirstPaint : public QObject {
+ public:
+  bool hasCome = false;
+  bool hasLog = false;
+
+  bool eventFilter(QObject* window, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !std::exchange(hasCome, true))
+      hasLog = window->findChild<QPlainTextEdit*>() != nullptr;
+    return false;
+  }
+};
+
+TEST_F(DebugLogPanelTest, MakesTheLogAfterTheFirstFrameAndMovesNothing) {
+  FirstPaint first;
+  MainWindow window(host.state, {[] {}, [] {}, [] {}});
+  window.installEventFilter(&first);
+  window.show();
+  const auto& panel = *window.findChild<DebugLogPanel*>();
+  const QRect place = panel.geometry();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.findChild<QPlainTextEdit*>() != nullptr; }, 30000));
+  EXPECT_TRUE(first.hasCome);
+  EXPECT_FALSE(first.hasLog);
+  QApplication::processEvents();
+  EXPECT_TRUE(window.findChild<QPlainTextEdit*>()->isVisible());
+  EXPECT_EQ(panel.geometry(), place);
 }
 
 TEST_F(DebugLogPanelTest, KeepsASelectionWhenLinesArrive) {
