@@ -30,7 +30,7 @@ class LinuxMachine {
   /// The ports of the machine, with those of its desktop.
   Platform platform(StatusBar& statusBar, Application& application, Workspace& workspace);
 
-  MainQueue& mainQueue() { return queue; }
+  QtMainQueue& mainQueue() { return queue; }
 
  private:
   QtMainQueue queue;

@@ -32,6 +32,7 @@ int WindowProgram::run() {
 
 void WindowProgram::openWindow() {
   WindowState& state = app.openWindow();
+  machine.mainQueue().runWaiting();  // what the state found out is in the first picture of the window
   auto widget = std::make_unique<MainWindow>(
       state, MainWindow::Actions{[this] { openWindow(); }, [this, &state] { closed(state); },
                                  [] { QCoreApplication::quit(); }});

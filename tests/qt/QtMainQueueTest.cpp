@@ -108,6 +108,21 @@ TEST(QtMainQueueTest, WaitingBlocksRunInOrderWithinALoopThatABlockRuns) {
   EXPECT_THAT(order, ElementsAre(1, 2, 3, 4));
 }
 
+TEST(QtMainQueueTest, RunsTheWaitingBlocksAtOnceWhenItIsToldTo) {
+  QtMainQueue queue;
+  std::vector<std::string> order;
+  queue.post([&] {
+    order.emplace_back("first");
+    queue.post([&] { order.emplace_back("posted by the first"); });
+  });
+  queue.post([&] { order.emplace_back("second"); });
+  queue.runWaiting();
+  EXPECT_THAT(order, ElementsAre("first", "second"));
+  EXPECT_TRUE(spinUntil([&] { return order.size() == 3; }));
+  queue.runWaiting();
+  EXPECT_EQ(order.size(), 3U) << "each block runs once";
+}
+
 TEST(QtMainQueueTest, BlocksLeftAtItsEndDoNotRun) {
   bool hasRun = false;
   const auto held = std::make_shared<int>();

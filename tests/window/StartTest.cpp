@@ -6,6 +6,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "FirstDrawing.h"
 #include "WindowTest.h"
 #include "XClient.h"
 
@@ -24,6 +25,15 @@ TEST_F(Start, OpensAWindowOfAtLeast1100By800) {
   EXPECT_GE(size.width, 1100);
   EXPECT_GE(size.height, 800);
   EXPECT_EQ(program->errorOutput(), "");
+}
+
+TEST_F(Start, TheFirstPictureShowsTheStateOfTheMachineAlready) {
+  const FirstDrawing drawing(session.server().display());
+  launch();
+  const QImage first = screen.picture(drawing.wait());
+  waitForWindow();
+  readScreen({"see label: GRANTED", "miss push button: FIX"});
+  EXPECT_EQ(screen.picture(window()), first);
 }
 
 class SmallScreen : public WindowTest {

@@ -27,9 +27,17 @@ void WindowTest::TearDown() {
 }
 
 void WindowTest::start(const std::vector<std::string>& environment) {
+  launch(environment);
+  waitForWindow();
+}
+
+void WindowTest::launch(const std::vector<std::string>& environment) {
   const auto usual = joined(session.environment(), {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1"});
   program =
       std::make_unique<Process>(VANTOREL_PROGRAM, std::vector<std::string>{}, joined(usual, environment));
+}
+
+void WindowTest::waitForWindow() {
   require("the window in front", [&] { return isInFront(); });
   require("the hot key", [&] { return outputCount("热键已注册") == 1; });
 }

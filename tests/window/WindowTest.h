@@ -30,6 +30,10 @@ class WindowTest : public testing::Test {
   /// and the hot key is there.
   void start(const std::vector<std::string>& environment = {});
 
+  /// The same in two steps: begins to start, and waits.
+  void launch(const std::vector<std::string>& environment = {});
+  void waitForWindow();
+
   /// Starts the program a second time with `arguments` and returns its exit status.
   int startAgain(const std::vector<std::string>& arguments = {});
 

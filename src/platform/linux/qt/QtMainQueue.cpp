@@ -27,6 +27,15 @@ void QtMainQueue::post(std::function<void()> block) {
   eventfd_write(waiting.number(), 1);
 }
 
+void QtMainQueue::runWaiting() {
+  std::size_t left = 0;
+  {
+    const std::lock_guard lock(mutex);
+    left = blocks.size();
+  }
+  for (; left > 0; --left) runNext();
+}
+
 void QtMainQueue::runNext() {
   eventfd_t one = 0;
   if (eventfd_read(waiting.number(), &one) != 0) return;

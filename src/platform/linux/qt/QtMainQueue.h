@@ -24,6 +24,9 @@ class QtMainQueue final : public MainQueue {
 
   void post(std::function<void()> block) override;
 
+  /// Runs the blocks that wait now, without a turn of the loop between them. Main thread.
+  void runWaiting();
+
  private:
   void runNext();
 
