@@ -3,6 +3,7 @@
 
 find_program(HB_SUBSET hb-subset REQUIRED)
 find_program(FC_MATCH fc-match REQUIRED)
+find_program(FC_QUERY fc-query REQUIRED)
 
 # find_font(FILE INDEX PATTERN): the file of the installed font that fontconfig's PATTERN names, and its number there.
 # The name is the English one, also where fontconfig would prefer another.
@@ -21,7 +22,8 @@ function(find_font file index pattern)
 endfunction()
 
 # embed_fonts(TARGET SOURCES PATTERN...): compiles fonts for all that the sources in the directory SOURCES say into
-# TARGET, as the resources named "fonts", each as ":/fonts/PATTERN".
+# TARGET, as the resources named "fonts": each as ":/fonts/PATTERN", and what fontconfig knows of it, but for its file,
+# as ":/fontDescriptions/PATTERN".
 function(embed_fonts target sources)
   set(directory "${CMAKE_CURRENT_BINARY_DIR}/fonts")
   set(characters "${directory}/characters.txt")
@@ -33,9 +35,10 @@ function(embed_fonts target sources)
   set(pictures "U+2328,U+26A0")
   set(fonts "")
   set(entries "")
+  set(descriptions "")
   foreach(pattern IN LISTS ARGN)
     find_font(file index "${pattern}")
-    list(LENGTH fonts number)
+    list(FIND ARGN "${pattern}" number)
     set(font "${directory}/${number}.ttf")
     set(without "")
     if(NOT pattern MATCHES "Emoji")
@@ -43,12 +46,17 @@ function(embed_fonts target sources)
     endif()
     add_custom_command(OUTPUT "${font}" DEPENDS "${characters}" VERBATIM
       COMMAND ${HB_SUBSET} --font-file=${file} --face-index=${index} --output-file=${font}
-              --unicodes=U+0020-007E,U+00A0-017F --text-file=${characters} ${without})
-    list(APPEND fonts "${font}")
+              --no-hinting --unicodes=U+0020-007E,U+00A0-017F --text-file=${characters} ${without})
+    set(description "${directory}/${number}.description")
+    add_custom_command(OUTPUT "${description}" DEPENDS "${font}" VERBATIM
+      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${FC_QUERY} --format "%{-file,familylang,stylelang,fullname,fullnamelang,fontversion,capability,postscriptname,decorative,order,foundry,symbol,variable,fonthashint{%{=unparse}}}" ${font} > ${description})
+    list(APPEND fonts "${font}" "${description}")
     string(APPEND entries "<file alias=\"${pattern}\">${font}</file>")
+    string(APPEND descriptions "<file alias=\"${pattern}\">${description}</file>")
   endforeach()
   set(list "${directory}/fonts.qrc")
-  file(CONFIGURE OUTPUT "${list}" CONTENT "<RCC><qresource prefix=\"/fonts\">${entries}</qresource></RCC>" @ONLY)
+  file(CONFIGURE OUTPUT "${list}" @ONLY CONTENT "<RCC><qresource prefix=\"/fonts\">${entries}</qresource><qresource \
+prefix=\"/fontDescriptions\">${descriptions}</qresource></RCC>")
   set(source "${directory}/fonts.cpp")
   add_custom_command(OUTPUT "${source}" DEPENDS "${list}" ${fonts} VERBATIM
     COMMAND Qt6::rcc --no-compress --name fonts --output ${source} ${list})

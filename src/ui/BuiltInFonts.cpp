@@ -26,6 +26,14 @@ struct Release {
 };
 using Configuration = std::unique_ptr<FcConfig, Release>;
 
+const FcChar8* bytes(const QByteArray& text) { return reinterpret_cast<const FcChar8*>(text.constData()); }
+
+/// With the zero behind it that a resource lacks.
+QByteArray contents(const QString& resource) {
+  const QByteArray bare = QResource(resource).uncompressedData();
+  return {bare.constData(), bare.size()};
+}
+
 /// Whether those of the system are in use, be there any or not: only their configuration comes from files.
 bool hasSystemFonts() {
   const std::unique_ptr<FcStrList, Release> files(FcConfigGetConfigFiles(nullptr));
@@ -33,32 +41,39 @@ bool hasSystemFonts() {
 }
 
 /// By any of its names: where the user speaks Chinese, that of a Chinese font may come first.
-bool isInUse(const QString& family) {
+bool hasFamily(FcConfig* configuration, const QString& family) {
   const std::unique_ptr<FcPattern, Release> wanted(FcPatternCreate());
   const std::unique_ptr<FcObjectSet, Release> nothingElse(FcObjectSetCreate());
-  const QByteArray name = family.toUtf8();
-  FcPatternAddString(wanted.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(name.constData()));
-  const std::unique_ptr<FcFontSet, Release> found(FcFontList(nullptr, wanted.get(), nothingElse.get()));
+  FcPatternAddString(wanted.get(), FC_FAMILY, bytes(family.toUtf8()));
+  const std::unique_ptr<FcFontSet, Release> found(FcFontList(configuration, wanted.get(), nothingElse.get()));
   return found && found->nfont > 0;
 }
 
-/// Adds the built-in fonts of families that the program does not have. Each is named after its family and,
-/// behind a colon, its style.
-void addBuiltInFonts() {
+/// Adds the built-in fonts of families that `configuration` does not have: its own have more characters. Each is
+/// named after its family and, behind a colon, its style. What fontconfig would find out about them by reading
+/// their files, it was asked when they were built in.
+void addBuiltInFonts(FcConfig* configuration) {
   const QDir fonts(QStringLiteral(":/fonts"));
+  const QDir descriptions(QStringLiteral(":/fontDescriptions"));
   QStringList names = fonts.entryList();
-  names.removeIf([](const QString& name) { return isInUse(name.section(u':', 0, 0)); });
-  for (const QString& name : names)
-    QFontDatabase::addApplicationFontFromData(QResource(fonts.filePath(name)).uncompressedData());
+  names.removeIf([&](const QString& name) { return hasFamily(configuration, name.section(u':', 0, 0)); });
+  FcConfigAppFontAddFile(configuration, bytes("none"));  // fails, but makes the set of the program's fonts
+  for (const QString& name : names) {
+    FcPattern* const font = FcNameParse(bytes(contents(descriptions.filePath(name))));
+    FcPatternAddString(font, FC_FILE, bytes(fonts.filePath(name).toUtf8()));
+    FcFontSetAdd(FcConfigGetFonts(configuration, FcSetApplication), font);
+  }
 }
 
-/// Makes the fonts of `configuration` those of the program, with the built-in ones of families that it lacks:
-/// its own have more characters.
+/// Makes the fonts of `configuration` those of the program, and the built-in ones.
 void use(const Configuration& configuration) {
-  // Qt looks at another configuration only after fonts were taken away.
-  QFontDatabase::removeAllApplicationFonts();
+  addBuiltInFonts(configuration.get());
   FcConfigSetCurrent(configuration.get());
-  addBuiltInFonts();
+}
+
+/// Makes Qt look for fonts anew, which it does after one of its own was taken away.
+void forgetFonts() {
+  QFontDatabase::removeApplicationFont(QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/DejaVu Sans")));
 }
 
 bool isBuiltIn(char32_t character) {
@@ -86,7 +101,10 @@ bool isInBuiltInFonts(const QString& text) {
 
 QString foreignText(std::string_view text) {
   QString result = fromCore(text);
-  if (!hasSystemFonts() && !isInBuiltInFonts(result)) use(Configuration(FcInitLoadConfigAndFonts()));
+  if (!hasSystemFonts() && !isInBuiltInFonts(result)) {
+    forgetFonts();
+    use(Configuration(FcInitLoadConfigAndFonts()));
+  }
   return result;
 }
 

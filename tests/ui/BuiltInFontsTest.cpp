@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QGlyphRun>
+#include <QPainterPath>
+#include <QRawFont>
 #include <filesystem>
 
 #include "QtLayout.h"
@@ -24,7 +26,11 @@ qsizetype missingGlyphs(const QString& text) {
 
 class BuiltInFonts : public testing::Test {
  protected:
-  ~BuiltInFonts() override { useBuiltInFonts(); }
+  /// Qt looks at the fonts anew when one of its own was taken away.
+  ~BuiltInFonts() override {
+    QFontDatabase::removeApplicationFont(QFontDatabase::addApplicationFont(":/fonts/DejaVu Sans"));
+    useBuiltInFonts();
+  }
 };
 
 TEST_F(BuiltInFonts, AreTheOnlyOnes) {
@@ -52,6 +58,21 @@ TEST_F(BuiltInFonts, HaveEveryLatinLetter) {
     if (letter == 0x7F) letter = 0xA0;
     EXPECT_TRUE(isInBuiltInFonts(QChar(letter))) << letter;
   }
+}
+
+/// The shape of an "I".
+QPainterPath shape(const QFont& font) {
+  const QRawFont raw = QRawFont::fromFont(font);
+  return raw.pathForGlyph(raw.glyphIndexesForString("I").constFirst());
+}
+
+TEST_F(BuiltInFonts, ComeInTwoWeights) {
+  EXPECT_GT(shape(monospaced(12, QFont::Bold)).boundingRect().width(),
+            shape(monospaced(12)).boundingRect().width());
+  EXPECT_GT(shape(systemFont(12, QFont::Bold)).boundingRect().width(),
+            shape(systemFont(12)).boundingRect().width());
+  EXPECT_EQ(shape(systemFont(12, QFont::Black)), shape(systemFont(12, QFont::Bold)))
+      << "the heaviest there is";
 }
 
 TEST_F(BuiltInFonts, SayWhatTheyLack) {
