@@ -3,6 +3,8 @@
 #include <exception>
 #include <future>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "BuiltInFonts.h"
 #include "Commands.h"
@@ -33,10 +35,24 @@ int showRunningProgram() {
   return 1;
 }
 
-/// Lets the session's bus answer while the display does: both take their time.
-std::future<QDBusConnection> beginToConnectToBus() {
-  QThread::currentThread();  // Qt takes the first thread that it meets for that of the application
-  return std::async(std::launch::async, connectToSessionBus);
+/// Those that the program talks to.
+struct Partners {
+  std::unique_ptr<RemoteControl> otherStarts;
+  std::optional<X11Connections> x11;
+};
+
+/// Lets them answer while Qt connects to the display: all take their time. Qt has a connection of its own to
+/// the session's bus, which it would open for the screen readers at the first text of the window.
+std::future<Partners> beginToConnect(const RemoteControl::Handlers& handlers) {
+  QThread* const mainThread = QThread::currentThread();  // Qt takes the first that it meets for that one
+  return std::async(std::launch::async, [handlers, mainThread] {
+    Partners partners;
+    if (isSet("DISPLAY")) partners.x11.emplace();
+    const QDBusConnection bus = connectToSessionBus();
+    partners.otherStarts = std::make_unique<RemoteControl>(bus, handlers, mainThread);
+    if (bus.isConnected()) QDBusConnection::sessionBus();
+    return partners;
+  });
 }
 
 void describeApplication() {
@@ -55,20 +71,20 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
-  std::future<QDBusConnection> bus = beginToConnectToBus();
+  WindowProgram* running = nullptr;  // calls from outside arrive when it does
+  std::future<Partners> connecting = beginToConnect(
+      {[&] { running->toggle(); }, [&] { running->showWindow(); }, [] { QCoreApplication::quit(); }});
   QApplication application(argumentCount, arguments);
   useBuiltInFonts();
   HeldKeyFilter heldKeys;
   application.installEventFilter(&heldKeys);
   describeApplication();
   try {
-    std::unique_ptr<WindowProgram> program;  // calls from outside arrive when it runs
-    const RemoteControl remote(bus.get(), {[&] { program->toggle(); }, [&] { program->showWindow(); },
-                                           [] { QCoreApplication::quit(); }});
-    if (remote.state() == RemoteControl::State::anotherIsRunning) return showRunningProgram();
-    program = std::make_unique<WindowProgram>(isSet("DISPLAY") ? LinuxMachine::Injection::x11
-                                                               : LinuxMachine::Injection::none);
-    return program->run();
+    Partners partners = connecting.get();
+    if (partners.otherStarts->state() == RemoteControl::State::anotherIsRunning) return showRunningProgram();
+    WindowProgram program(std::move(partners.x11));
+    running = &program;
+    return program.run();
   } catch (const std::exception& problem) {
     complain(problem.what());
     return 1;

@@ -46,6 +46,14 @@ TEST_F(RemoteControlTest, TheRunningProgramDoesWhatItIsAskedFor) {
   EXPECT_EQ(program->output(), "reachable\ntoggled\nshown\n");
 }
 
+TEST_F(RemoteControlTest, MadeOnAThreadItIsServedOnTheOneThatIsItsHome) {
+  const auto program = start(session, "from-a-thread");
+  EXPECT_EQ(send(session, "toggle"), "done");
+  EXPECT_EQ(program->output(), "reachable\ntoggled\n");
+  program->signal(SIGTERM);
+  EXPECT_EQ(program->waitForExit(), 0);
+}
+
 TEST_F(RemoteControlTest, WhoAsksToQuitIsAnsweredBeforeTheProgramEnds) {
   const auto program = start(session);
   EXPECT_EQ(send(session, "quit"), "done");

@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <cstdlib>
 #include <filesystem>
+#include <future>
 #include <iostream>
+#include <memory>
 #include <thread>
 
 #include "ProcessOutput.h"
@@ -40,14 +42,21 @@ const char* nameOf(RemoteControl::State state) {
 }
 
 /// Ends with status 0 on a signal. Its answer to "quit" is to end on the spot.
-int serveRemote(bool isHeadless) {
+int serveRemote(const std::string& kind) {
   const SignalWatcher signals([](int) { QCoreApplication::quit(); });
+  QThread* const mainThread = QThread::currentThread();
   RemoteControl::Handlers handlers;
-  handlers.toggle = [] { std::cout << "toggled" << std::endl; };
-  if (!isHeadless) handlers.show = [] { std::cout << "shown" << std::endl; };
+  handlers.toggle = [mainThread] {
+    std::cout << (QThread::currentThread() == mainThread ? "toggled" : "on a wrong thread") << std::endl;
+  };
+  if (kind != "headless") handlers.show = [] { std::cout << "shown" << std::endl; };
   handlers.quit = [] { std::_Exit(7); };
-  const RemoteControl control(connectToSessionBus(), handlers);
-  std::cout << nameOf(control.state()) << std::endl;
+  const auto make = [&] {
+    return std::make_unique<RemoteControl>(connectToSessionBus(), handlers, mainThread);
+  };
+  const auto control =
+      std::async(kind == "from-a-thread" ? std::launch::async : std::launch::deferred, make).get();
+  std::cout << nameOf(control->state()) << std::endl;
   return QCoreApplication::exec();
 }
 
@@ -98,7 +107,7 @@ int runRole(const std::vector<std::string>& arguments) {
   const std::string name = arguments.empty() ? "" : arguments[0];
   const std::string argument = arguments.size() < 2 ? "" : arguments[1];
   if (name == role::writeSettings) writeSettings(argument);
-  if (name == role::serveRemote) return serveRemote(argument == "headless");
+  if (name == role::serveRemote) return serveRemote(argument);
   if (name == role::sendRemote) return sendRemote(argument, 30s);
   if (name == role::sendRemoteInHaste) return sendRemote(argument, 300ms);
   if (name == role::printLines) return printLines();

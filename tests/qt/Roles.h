@@ -10,8 +10,8 @@ namespace vantorel::test {
 /// The arguments that make this program run as a partner of a test instead of running the tests.
 namespace role {
 inline const std::string writeSettings = "--write-settings";  ///< PATH: changes the settings for ever
-inline const std::string serveRemote = "--serve-remote";      ///< [headless]: a program under remote control
-inline const std::string sendRemote = "--send-remote";        ///< toggle | show | quit: prints the answer
+inline const std::string serveRemote = "--serve-remote";  ///< [headless | from-a-thread]: a program under it
+inline const std::string sendRemote = "--send-remote";    ///< toggle | show | quit: prints the answer
 inline const std::string sendRemoteInHaste = "--send-remote-in-haste";  ///< the same, but does not wait long
 inline const std::string printLines = "--print-lines";                  ///< writes lines from several threads
 }  // namespace role

@@ -56,10 +56,11 @@ class RemoteObject : public QObject, protected QDBusContext {
 
 }  // namespace
 
-RemoteControl::RemoteControl(QDBusConnection connection, Handlers handlers)
-    : bus(std::move(connection)),
-      object(std::make_unique<RemoteObject>(std::move(handlers))),
-      result(claim()) {}
+RemoteControl::RemoteControl(QDBusConnection connection, Handlers handlers, QThread* home)
+    : bus(std::move(connection)), object(std::make_unique<RemoteObject>(std::move(handlers))) {
+  object->moveToThread(home);
+  result = claim();
+}
 
 RemoteControl::~RemoteControl() { disconnectFrom(bus); }
 

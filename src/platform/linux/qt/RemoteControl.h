@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QThread>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -11,12 +12,12 @@ namespace vantorel {
 
 /// Makes this the one running program of the session, which `send` reaches over D-Bus.
 ///
-/// Main thread, once the QCoreApplication is there. At the end of this object or of the process, however it
-/// comes, another program can take its place.
+/// It may be made on any thread, and ends on that of `home`. At the end of this object or of the process,
+/// however it comes, another program can take its place.
 class RemoteControl {
  public:
-  /// What the commands do, on the main event loop. Without `show` the program has no window and refuses to
-  /// show one. `quit` is called once the caller has its answer.
+  /// What the commands do, on the event loop of `home`. Without `show` the program has no window and refuses
+  /// to show one. `quit` is called once the caller has its answer.
   struct Handlers {
     std::function<void()> toggle;
     std::function<void()> show;
@@ -30,7 +31,7 @@ class RemoteControl {
   };
 
   /// At `connection`, the result of `connectToSessionBus`, which it ends with itself.
-  RemoteControl(QDBusConnection connection, Handlers handlers);
+  RemoteControl(QDBusConnection connection, Handlers handlers, QThread* home = QThread::currentThread());
   RemoteControl(const RemoteControl&) = delete;
   RemoteControl& operator=(const RemoteControl&) = delete;
   ~RemoteControl();
@@ -43,7 +44,7 @@ class RemoteControl {
 
   QDBusConnection bus;
   std::unique_ptr<QObject> object;
-  State result;
+  State result = State::noSessionBus;
 };
 
 }  // namespace vantorel
