@@ -1,10 +1,7 @@
 #include "FirstDrawing.h"
 
+#include <poll.h>
 #include <xcb/damage.h>
-
-#include <stdexcept>
-
-#include "XcbReply.h"
 
 namespace vantorel {
 
@@ -12,6 +9,8 @@ namespace {
 
 /// Smaller windows are helpers of the toolkit.
 constexpr int smallestMainWindow = 500;
+
+constexpr int patience = 30000;  // milliseconds without any event
 
 }  // namespace
 
@@ -23,24 +22,34 @@ FirstDrawing::FirstDrawing(const std::optional<std::string>& display) : connecti
   connection.sync();
 }
 
-/// Not later than when it is made: to be watched from then on counts as drawing for a window that can be seen
-/// already.
+/// A window that can be seen already counts as drawn into as soon as it is watched.
 void FirstDrawing::watch(const xcb_create_notify_event_t& created) const {
   if (created.width < smallestMainWindow) return;
   xcb_damage_create(connection.handle(), xcb_generate_id(connection.handle()), created.window,
                     XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
-  connection.flush();
+  const XcbReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+      connection.handle(), xcb_get_window_attributes(connection.handle(), created.window), nullptr));
+  if (attributes && attributes->map_state != XCB_MAP_STATE_UNMAPPED) throw WatchedTooLate();
+}
+
+XcbReply<xcb_generic_event_t> FirstDrawing::nextEvent() const {
+  while (!connection.isLost()) {
+    if (XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection.handle())}) return event;
+    pollfd server{connection.fileDescriptor(), POLLIN, 0};
+    if (poll(&server, 1, patience) == 0) throw std::runtime_error("nothing is drawn");
+  }
+  throw std::runtime_error("the connection to the X server is lost");
 }
 
 xcb_window_t FirstDrawing::wait() const {
   const auto* const damage = xcb_get_extension_data(connection.handle(), &xcb_damage_id);
-  while (const XcbReply<xcb_generic_event_t> event{xcb_wait_for_event(connection.handle())}) {
+  while (true) {
+    const XcbReply<xcb_generic_event_t> event = nextEvent();
     const auto type = event->response_type & 0x7FU;
     if (type == XCB_CREATE_NOTIFY) watch(reinterpret_cast<const xcb_create_notify_event_t&>(*event));
     if (type == static_cast<unsigned>(damage->first_event + XCB_DAMAGE_NOTIFY))
       return reinterpret_cast<const xcb_damage_notify_event_t&>(*event).drawable;
   }
-  throw std::runtime_error("the connection to the X server is lost");
 }
 
 }  // namespace vantorel

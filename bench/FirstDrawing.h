@@ -1,11 +1,18 @@
 #pragma once
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include "XcbConnection.h"
+#include "XcbReply.h"
 
 namespace vantorel {
+
+/// On a busy machine a window may be seen before anybody could watch it; nobody knows when it was drawn then.
+struct WatchedTooLate : std::runtime_error {
+  WatchedTooLate() : std::runtime_error("the window was there before it could be watched") {}
+};
 
 /// Waits, as another client of an X server, until a program has drawn into its main window for the first
 /// time.
@@ -15,11 +22,13 @@ class FirstDrawing {
   /// std::runtime_error when there is no X server.
   explicit FirstDrawing(const std::optional<std::string>& display = std::nullopt);
 
-  /// Returns the window, as soon as something was drawn into one of the size of a main window.
+  /// Returns the window, as soon as something was drawn into one of the size of a main window. Throws
+  /// WatchedTooLate, and std::runtime_error when nothing comes for half a minute.
   xcb_window_t wait() const;
 
  private:
   void watch(const xcb_create_notify_event_t& created) const;
+  XcbReply<xcb_generic_event_t> nextEvent() const;
 
   XcbConnection connection;
 };

@@ -22,8 +22,8 @@ function(find_font file index pattern)
 endfunction()
 
 # embed_fonts(TARGET SOURCES PATTERN...): compiles fonts for all that the sources in the directory SOURCES say into
-# TARGET, as the resources named "fonts": each as ":/fonts/PATTERN", and what fontconfig knows of it, but for its file,
-# as ":/fontDescriptions/PATTERN".
+# TARGET, as the resources named "fonts": each as ":/fonts/PATTERN", and fontconfig's description of it, without its file
+# and what nobody asks for, as ":/fontDescriptions/PATTERN".
 function(embed_fonts target sources)
   set(directory "${CMAKE_CURRENT_BINARY_DIR}/fonts")
   set(characters "${directory}/characters.txt")
@@ -49,7 +49,7 @@ function(embed_fonts target sources)
               --no-hinting --unicodes=U+0020-007E,U+00A0-017F --text-file=${characters} ${without})
     set(description "${directory}/${number}.description")
     add_custom_command(OUTPUT "${description}" DEPENDS "${font}" VERBATIM
-      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${FC_QUERY} --format "%{-file,familylang,stylelang,fullname,fullnamelang,fontversion,capability,postscriptname,decorative,order,foundry,symbol,variable,fonthashint{%{=unparse}}}" ${font} > ${description})
+      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${FC_QUERY} --format "%{-file,familylang,stylelang,fullname,fullnamelang,fontversion,capability,postscriptname,decorative,order,foundry,symbol,fonthashint{%{=unparse}}}" ${font} > ${description})
     list(APPEND fonts "${font}" "${description}")
     string(APPEND entries "<file alias=\"${pattern}\">${font}</file>")
     string(APPEND descriptions "<file alias=\"${pattern}\">${description}</file>")

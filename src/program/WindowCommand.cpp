@@ -27,29 +27,30 @@ bool isDisplayThere() {
   return isSet("DISPLAY");
 }
 
-/// Shows the window of the program that runs already.
-int showRunningProgram() {
-  const RemoteAnswer answer = send(RemoteCommand::show);
+/// The status of a start that only shows the window of the program that runs already.
+int statusOf(const RemoteAnswer& answer) {
   if (answer.outcome == RemoteOutcome::done) return 0;
   complain("it is running already: " + answer.message);
   return 1;
 }
 
-/// Those that the program talks to.
+/// Those that the program talks to from its start on.
 struct Partners {
-  std::unique_ptr<RemoteControl> otherStarts;
+  std::unique_ptr<RemoteControl> remote;
   std::optional<X11Connections> x11;
 };
 
-/// Lets them answer while Qt connects to the display: all take their time. Qt has a connection of its own to
-/// the session's bus, which it would open for the screen readers at the first text of the window.
+/// Lets them answer while Qt connects to the display: all take their time. Qt's own connection to the
+/// session's bus is opened as well, which would otherwise be done for the screen readers at the first text of
+/// the window.
 std::future<Partners> beginToConnect(const RemoteControl::Handlers& handlers) {
-  QThread* const mainThread = QThread::currentThread();  // Qt takes the first that it meets for that one
-  return std::async(std::launch::async, [handlers, mainThread] {
+  // Asked for here, as Qt takes the first thread that it meets for that of the application.
+  QThread* const mainThread = QThread::currentThread();
+  return std::async(std::launch::async, [handlers, mainThread, display = qgetenv("DISPLAY").toStdString()] {
     Partners partners;
-    if (isSet("DISPLAY")) partners.x11.emplace();
+    if (!display.empty()) partners.x11 = X11Connections{XcbConnection(display), XcbConnection(display)};
     const QDBusConnection bus = connectToSessionBus();
-    partners.otherStarts = std::make_unique<RemoteControl>(bus, handlers, mainThread);
+    partners.remote = std::make_unique<RemoteControl>(bus, handlers, mainThread);
     if (bus.isConnected()) QDBusConnection::sessionBus();
     return partners;
   });
@@ -71,9 +72,10 @@ int openWindow(int& argumentCount, char** arguments) {
     complain("there is no display; --headless runs without a window, --demo shows what it does");
     return 1;
   }
-  WindowProgram* running = nullptr;  // calls from outside arrive when it does
-  std::future<Partners> connecting = beginToConnect(
-      {[&] { running->toggle(); }, [&] { running->showWindow(); }, [] { QCoreApplication::quit(); }});
+  WindowProgram* running = nullptr;  // calls from outside wait for the event loop, and by then it is set
+  const RemoteControl::Handlers handlers{[&] { running->toggle(); }, [&] { running->showWindow(); },
+                                         [] { QCoreApplication::quit(); }};
+  std::future<Partners> connecting = beginToConnect(handlers);
   QApplication application(argumentCount, arguments);
   useBuiltInFonts();
   HeldKeyFilter heldKeys;
@@ -81,9 +83,15 @@ int openWindow(int& argumentCount, char** arguments) {
   describeApplication();
   try {
     Partners partners = connecting.get();
-    if (partners.otherStarts->state() == RemoteControl::State::anotherIsRunning) return showRunningProgram();
+    while (partners.remote->state() == RemoteControl::State::anotherIsRunning) {
+      const RemoteAnswer answer = send(RemoteCommand::show);
+      if (answer.outcome != RemoteOutcome::noRunningProgram) return statusOf(answer);
+      partners.remote =
+          std::make_unique<RemoteControl>(connectToSessionBus(), handlers);  // it has just ended
+    }
     WindowProgram program(std::move(partners.x11));
     running = &program;
+    const std::unique_ptr<RemoteControl> remote = std::move(partners.remote);  // ends before the program does
     return program.run();
   } catch (const std::exception& problem) {
     complain(problem.what());

@@ -15,7 +15,9 @@ WindowProgram::WindowProgram(std::optional<X11Connections> x11)
       machine(std::move(x11),
               [] {
                 complain("the connection to the X server is lost");
-                QCoreApplication::exit(1);
+                // The event loop may not run yet, and would then not end.
+                QMetaObject::invokeMethod(
+                    qApp, [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
               }),
       statusBar(machine.mainQueue()),
       application(statusBar),
@@ -27,13 +29,18 @@ WindowProgram::WindowProgram(std::optional<X11Connections> x11)
 int WindowProgram::run() {
   const SignalWatcher signals([](int /*signal*/) { QCoreApplication::quit(); });
   openWindow();
+  machine.mainQueue().runWaiting();  // the first window does not wait for the event loop
   menuBarModeObservation = MenuBarManager::shared().isMenuBarMode.observe([this] { menuBarModeChanged(); });
   return QCoreApplication::exec();
 }
 
+/// The widgets come behind what the state has posted: their first picture shows what it found out.
 void WindowProgram::openWindow() {
   WindowState& state = app.openWindow();
-  machine.mainQueue().runWaiting();  // what the state found out is in the first picture of the window
+  machine.mainQueue().post([this, &state] { show(state); });
+}
+
+void WindowProgram::show(WindowState& state) {
   auto widget = std::make_unique<MainWindow>(
       state, MainWindow::Actions{[this] { openWindow(); }, [this, &state] { closed(state); },
                                  [] { QCoreApplication::quit(); }});

@@ -40,6 +40,7 @@ class WindowProgram {
   };
 
   void openWindow();
+  void show(WindowState& state);
   void closed(const WindowState& state);
   void showRemedy(const Remedy& remedy);
   void menuBarModeChanged();

@@ -49,15 +49,15 @@ bool hasFamily(FcConfig* configuration, const QString& family) {
   return found && found->nfont > 0;
 }
 
-/// Adds the built-in fonts of families that `configuration` does not have: its own have more characters. Each is
-/// named after its family and, behind a colon, its style. What fontconfig would find out about them by reading
-/// their files, it was asked when they were built in.
+/// Adds the built-in fonts of families that `configuration` does not have: its own have more characters. Each
+/// is named after its family and, behind a colon, its style. Their descriptions are built in too, so that
+/// fontconfig need not read the fonts for them.
 void addBuiltInFonts(FcConfig* configuration) {
   const QDir fonts(QStringLiteral(":/fonts"));
   const QDir descriptions(QStringLiteral(":/fontDescriptions"));
   QStringList names = fonts.entryList();
   names.removeIf([&](const QString& name) { return hasFamily(configuration, name.section(u':', 0, 0)); });
-  FcConfigAppFontAddFile(configuration, bytes("none"));  // fails, but makes the set of the program's fonts
+  FcConfigAppFontAddFile(configuration, bytes("/dev/null/none"));  // fails, but makes the set of fonts
   for (const QString& name : names) {
     FcPattern* const font = FcNameParse(bytes(contents(descriptions.filePath(name))));
     FcPatternAddString(font, FC_FILE, bytes(fonts.filePath(name).toUtf8()));
@@ -73,7 +73,8 @@ void use(const Configuration& configuration) {
 
 /// Makes Qt look for fonts anew, which it does after one of its own was taken away.
 void forgetFonts() {
-  QFontDatabase::removeApplicationFont(QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/DejaVu Sans")));
+  QFontDatabase::removeApplicationFont(
+      QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/DejaVu Sans")));
 }
 
 bool isBuiltIn(char32_t character) {

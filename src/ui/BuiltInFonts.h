@@ -7,7 +7,7 @@ namespace vantorel {
 
 /// Makes the fonts that the program brings along its only ones, so that it starts without a look at those of
 /// the system, which may be thousands, and looks the same everywhere. They have the characters of all its own
-/// texts. To be called once the QGuiApplication is there, before anything is drawn.
+/// texts. To be called once the QGuiApplication is there, before anything asks Qt for a font.
 void useBuiltInFonts();
 
 /// Whether the built-in fonts have all characters of `text`.

@@ -68,6 +68,7 @@ bool DebugLogPanel::eventFilter(QObject* shownWindow, QEvent* event) {
 }
 
 void DebugLogPanel::makeLog() {
+  if (log != nullptr) return;  // hidden and shown again meanwhile
   const std::unique_ptr<QLayoutItem> emptyRoom(contentLayout()->takeAt(contentLayout()->count() - 1));
   log = new RetroTextView(this);
   log->setFixedHeight(logHeight());

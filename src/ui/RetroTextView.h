@@ -10,7 +10,7 @@ class RetroTextView : public QPlainTextEdit {
  public:
   explicit RetroTextView(QWidget* parent = nullptr);
 
-  static QFont textFont();
+  static QFont textFont();          ///< for who has to know its measures before it is there
   static constexpr int margin = 8;  ///< around the text, with the outline
 
  protected:

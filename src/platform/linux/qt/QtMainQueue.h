@@ -10,8 +10,8 @@
 
 namespace vantorel {
 
-/// The main queue on Qt's event loop: each turn of the loop runs one block, so that the window, the timers
-/// and whatever else lives there get their turn between two blocks.
+/// The main queue on Qt's event loop: each turn of the loop runs one block by itself, so that the window, the
+/// timers and whatever else lives there get their turn between two blocks.
 ///
 /// Made and destroyed on the main thread, once the QCoreApplication is there. Blocks that are left at the end
 /// do not run.
