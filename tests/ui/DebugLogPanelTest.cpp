@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QScrollBar>
 #include <QTest>
+#include <algorithm>
 #include <utility>
 
 #include "OpenWindow.h"
@@ -83,12 +85,17 @@ TEST_F(DebugLogPanelTest, MakesTheLogAfterTheFirstFrameAndMovesNothing) {
   MainWindow window(host.state, {[] {}, [] {}, [] {}});
   window.installEventFilter(&first);
   window.show();
-  const auto& panel = *window.findChild<DebugLogPanel*>();
+  const auto labels = window.findChildren<QLabel*>();
+  const auto tag = std::find_if(labels.begin(), labels.end(),
+                                [](const QLabel* label) { return label->text() == "DEBUG_LOG"; });
+  ASSERT_NE(tag, labels.end());
+  const QWidget& panel = *(*tag)->parentWidget();
   const QRect place = panel.geometry();
   ASSERT_TRUE(QTest::qWaitFor([&] { return window.findChild<QPlainTextEdit*>() != nullptr; }, 30000));
   EXPECT_TRUE(first.hasCome);
   EXPECT_FALSE(first.hasLog);
   QApplication::processEvents();
+  EXPECT_EQ(window.findChild<QPlainTextEdit*>()->parentWidget(), &panel);
   EXPECT_TRUE(window.findChild<QPlainTextEdit*>()->isVisible());
   EXPECT_EQ(panel.geometry(), place);
 }
