@@ -3,7 +3,6 @@
 #include <exception>
 #include <future>
 #include <memory>
-#include <optional>
 #include <utility>
 
 #include "BuiltInFonts.h"
@@ -34,25 +33,17 @@ int statusOf(const RemoteAnswer& answer) {
   return 1;
 }
 
-/// Those that the program talks to from its start on.
-struct Partners {
-  std::unique_ptr<RemoteControl> remote;
-  std::optional<X11Connections> x11;
-};
-
-/// Lets them answer while Qt connects to the display: all take their time. Qt's own connection to the
-/// session's bus is opened as well, which would otherwise be done for the screen readers at the first text of
-/// the window.
-std::future<Partners> beginToConnect(const RemoteControl::Handlers& handlers) {
+/// Takes the program's name on the session's bus while Qt connects to the display: both take their time. Qt's
+/// own connection to the bus is opened as well, which would otherwise be done for the screen readers at the
+/// first text of the window. The X server must wait for its turn: libXau is not made for several threads.
+std::future<std::unique_ptr<RemoteControl>> beginToConnect(const RemoteControl::Handlers& handlers) {
   // Asked for here, as Qt takes the first thread that it meets for that of the application.
   QThread* const mainThread = QThread::currentThread();
-  return std::async(std::launch::async, [handlers, mainThread, display = qgetenv("DISPLAY").toStdString()] {
-    Partners partners;
-    if (!display.empty()) partners.x11 = X11Connections{XcbConnection(display), XcbConnection(display)};
+  return std::async(std::launch::async, [handlers, mainThread] {
     const QDBusConnection bus = connectToSessionBus();
-    partners.remote = std::make_unique<RemoteControl>(bus, handlers, mainThread);
+    auto remote = std::make_unique<RemoteControl>(bus, handlers, mainThread);
     if (bus.isConnected()) QDBusConnection::sessionBus();
-    return partners;
+    return remote;
   });
 }
 
@@ -75,23 +66,22 @@ int openWindow(int& argumentCount, char** arguments) {
   WindowProgram* running = nullptr;  // calls from outside wait for the event loop, and by then it is set
   const RemoteControl::Handlers handlers{[&] { running->toggle(); }, [&] { running->showWindow(); },
                                          [] { QCoreApplication::quit(); }};
-  std::future<Partners> connecting = beginToConnect(handlers);
+  auto connecting = beginToConnect(handlers);
   QApplication application(argumentCount, arguments);
   useBuiltInFonts();
   HeldKeyFilter heldKeys;
   application.installEventFilter(&heldKeys);
   describeApplication();
   try {
-    Partners partners = connecting.get();
-    while (partners.remote->state() == RemoteControl::State::anotherIsRunning) {
+    std::unique_ptr<RemoteControl> connected = connecting.get();
+    while (connected->state() == RemoteControl::State::anotherIsRunning) {
       const RemoteAnswer answer = send(RemoteCommand::show);
       if (answer.outcome != RemoteOutcome::noRunningProgram) return statusOf(answer);
-      partners.remote =
-          std::make_unique<RemoteControl>(connectToSessionBus(), handlers);  // it has just ended
+      connected = std::make_unique<RemoteControl>(connectToSessionBus(), handlers);  // it has just ended
     }
-    WindowProgram program(std::move(partners.x11));
+    WindowProgram program(isSet("DISPLAY") ? LinuxMachine::Injection::x11 : LinuxMachine::Injection::none);
     running = &program;
-    const std::unique_ptr<RemoteControl> remote = std::move(partners.remote);  // ends before the program does
+    const std::unique_ptr<RemoteControl> remote = std::move(connected);  // ends before the program does
     return program.run();
   } catch (const std::exception& problem) {
     complain(problem.what());
