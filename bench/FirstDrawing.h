@@ -9,7 +9,8 @@
 
 namespace vantorel {
 
-/// On a busy machine a window may be seen before anybody could watch it; nobody knows when it was drawn then.
+/// Beside a window manager, on a busy machine, a window may be seen before it could be watched. It counts as
+/// drawn into from then on, so nobody knows when it was.
 struct WatchedTooLate : std::runtime_error {
   WatchedTooLate() : std::runtime_error("the window was there before it could be watched") {}
 };
@@ -27,7 +28,10 @@ class FirstDrawing {
   xcb_window_t wait() const;
 
  private:
-  void watch(const xcb_create_notify_event_t& created) const;
+  bool receive(std::uint32_t events) const;
+  void watch(xcb_window_t window, int width) const;
+  void map(xcb_window_t window) const;
+  void configure(const xcb_configure_request_event_t& wish) const;
   XcbReply<xcb_generic_event_t> nextEvent() const;
 
   XcbConnection connection;
