@@ -17,7 +17,7 @@ namespace {
 /// The whole program but the window, from start to the end of its event loop.
 int run(const RunHeadless& command) {
   NoDesktop desktop([] { QCoreApplication::quit(); });
-  LinuxMachine machine(LinuxMachine::Injection::x11, [] {
+  LinuxMachine machine(X11Connections(), [] {
     complain("the connection to the X server is lost");
     QCoreApplication::exit(1);
   });

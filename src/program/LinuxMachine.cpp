@@ -4,9 +4,9 @@
 
 namespace vantorel {
 
-LinuxMachine::LinuxMachine(Injection injection, std::function<void()> onConnectionLost)
+LinuxMachine::LinuxMachine(std::optional<X11Connections> connections, std::function<void()> onConnectionLost)
     : controllers(queue), settings(SettingsFile::defaultPath()) {
-  if (injection == Injection::x11) x11.emplace(queue, std::move(onConnectionLost));
+  if (connections) x11.emplace(std::move(*connections), queue, std::move(onConnectionLost));
 }
 
 Platform LinuxMachine::platform(StatusBar& statusBar, Application& application, Workspace& workspace) {

@@ -20,12 +20,9 @@ namespace vantorel {
 /// Main thread, once the QCoreApplication is there.
 class LinuxMachine {
  public:
-  /// What a session without an X server leaves: with `none` the program can be seen but not act.
-  enum class Injection : std::uint8_t { x11, none };
-
-  /// Throws std::runtime_error with a text for the user when the X server is wanted and cannot be reached.
-  /// `onConnectionLost` is called on the main queue when it goes away.
-  LinuxMachine(Injection injection, std::function<void()> onConnectionLost);
+  /// Without `connections`, in a session that has no X server, the program can be seen but not act.
+  /// `onConnectionLost` is called on the main queue when the server goes away.
+  LinuxMachine(std::optional<X11Connections> connections, std::function<void()> onConnectionLost);
 
   /// The ports of the machine, with those of its desktop.
   Platform platform(StatusBar& statusBar, Application& application, Workspace& workspace);

@@ -3,6 +3,7 @@
 #include <exception>
 #include <future>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "BuiltInFonts.h"
@@ -33,17 +34,27 @@ int statusOf(const RemoteAnswer& answer) {
   return 1;
 }
 
-/// Takes the program's name on the session's bus while Qt connects to the display: both take their time. Qt's
-/// own connection to the bus is opened as well, which would otherwise be done for the screen readers at the
-/// first text of the window. The X server must wait for its turn: libXau is not made for several threads.
-std::future<std::unique_ptr<RemoteControl>> beginToConnect(const RemoteControl::Handlers& handlers) {
+/// Those that the program talks to from its start on.
+struct Partners {
+  std::unique_ptr<RemoteControl> remote;
+  std::optional<X11Connections> x11;
+};
+
+/// Lets them answer while the main thread works: all take their time. Qt's own connection to the session's
+/// bus is opened as well, which would otherwise be done for the screen readers at the first text of the
+/// window. `qtIsConnected` comes once Qt is connected to the display: libXau is not made for two threads at a
+/// time.
+std::future<Partners> beginToConnect(const RemoteControl::Handlers& handlers,
+                                     std::future<void> qtIsConnected) {
   // Asked for here, as Qt takes the first thread that it meets for that of the application.
   QThread* const mainThread = QThread::currentThread();
-  return std::async(std::launch::async, [handlers, mainThread] {
+  return std::async(std::launch::async, [handlers, mainThread, display = std::move(qtIsConnected)] {
     const QDBusConnection bus = connectToSessionBus();
-    auto remote = std::make_unique<RemoteControl>(bus, handlers, mainThread);
+    Partners partners{std::make_unique<RemoteControl>(bus, handlers, mainThread), std::nullopt};
     if (bus.isConnected()) QDBusConnection::sessionBus();
-    return remote;
+    display.wait();
+    if (isSet("DISPLAY")) partners.x11.emplace();
+    return partners;
   });
 }
 
@@ -66,22 +77,25 @@ int openWindow(int& argumentCount, char** arguments) {
   WindowProgram* running = nullptr;  // calls from outside wait for the event loop, and by then it is set
   const RemoteControl::Handlers handlers{[&] { running->toggle(); }, [&] { running->showWindow(); },
                                          [] { QCoreApplication::quit(); }};
-  auto connecting = beginToConnect(handlers);
+  std::promise<void> qtIsConnected;
+  std::future<Partners> connecting = beginToConnect(handlers, qtIsConnected.get_future());
   QApplication application(argumentCount, arguments);
+  qtIsConnected.set_value();
   useBuiltInFonts();
   HeldKeyFilter heldKeys;
   application.installEventFilter(&heldKeys);
   describeApplication();
   try {
-    std::unique_ptr<RemoteControl> connected = connecting.get();
-    while (connected->state() == RemoteControl::State::anotherIsRunning) {
+    Partners partners = connecting.get();
+    while (partners.remote->state() == RemoteControl::State::anotherIsRunning) {
       const RemoteAnswer answer = send(RemoteCommand::show);
       if (answer.outcome != RemoteOutcome::noRunningProgram) return statusOf(answer);
-      connected = std::make_unique<RemoteControl>(connectToSessionBus(), handlers);  // it has just ended
+      partners.remote =
+          std::make_unique<RemoteControl>(connectToSessionBus(), handlers);  // it has just ended
     }
-    WindowProgram program(isSet("DISPLAY") ? LinuxMachine::Injection::x11 : LinuxMachine::Injection::none);
+    WindowProgram program(std::move(partners.x11));
     running = &program;
-    const std::unique_ptr<RemoteControl> remote = std::move(connected);  // ends before the program does
+    const std::unique_ptr<RemoteControl> remote = std::move(partners.remote);  // ends before the program does
     return program.run();
   } catch (const std::exception& problem) {
     complain(problem.what());

@@ -3,15 +3,16 @@
 #include <QApplication>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "Remedies.h"
 #include "StandardError.h"
 
 namespace vantorel {
 
-WindowProgram::WindowProgram(LinuxMachine::Injection injection)
-    : hasXServer(injection == LinuxMachine::Injection::x11),
-      machine(injection,
+WindowProgram::WindowProgram(std::optional<X11Connections> x11)
+    : hasXServer(x11.has_value()),
+      machine(std::move(x11),
               [] {
                 complain("the connection to the X server is lost");
                 // The event loop may not run yet, and would then not end.

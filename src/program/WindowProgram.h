@@ -19,8 +19,8 @@ namespace vantorel {
 /// second start can show it; further ones end with their state.
 class WindowProgram {
  public:
-  /// Throws std::runtime_error with a text for the user when the machine lacks what `injection` wants.
-  explicit WindowProgram(LinuxMachine::Injection injection);
+  /// Without `x11` the session has no X server.
+  explicit WindowProgram(std::optional<X11Connections> x11);
 
   /// Opens the first window and runs until the user quits. The status of the process: 0, or 1 when the X
   /// server went away.

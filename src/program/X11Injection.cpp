@@ -4,10 +4,11 @@
 
 namespace vantorel {
 
-X11Injection::X11Injection(MainQueue& queue, std::function<void()> onConnectionLost)
-    : trust(posting),
-      poster(posting),
-      keys(grabbing, queue, std::move(onConnectionLost)),
+X11Injection::X11Injection(X11Connections x11, MainQueue& queue, std::function<void()> onConnectionLost)
+    : connections(std::move(x11)),
+      trust(connections.posting),
+      poster(connections.posting),
+      keys(connections.grabbing, queue, std::move(onConnectionLost)),
       watcher(keys.fileDescriptor(), [this] { keys.processEvents(); }) {}
 
 }  // namespace vantorel

@@ -11,13 +11,18 @@
 
 namespace vantorel {
 
-/// Input into an X session and its hot keys, over two connections: the one for events that are posted is used
-/// by several threads, the one for grabs is read by the main event loop.
+/// The connections to the X server for input. Making them waits for the server, and throws std::runtime_error
+/// with a text for the user when there is none. Any thread.
+struct X11Connections {
+  XcbConnection posting;   ///< for events that are posted; used by several threads
+  XcbConnection grabbing;  ///< for hot keys; read by the main event loop
+};
+
+/// Input into an X session and its hot keys. Main thread.
 class X11Injection {
  public:
-  /// Throws std::runtime_error with a text for the user when there is no X server. `onConnectionLost` is
-  /// called on the main queue.
-  X11Injection(MainQueue& queue, std::function<void()> onConnectionLost);
+  /// `onConnectionLost` is called on the main queue.
+  X11Injection(X11Connections x11, MainQueue& queue, std::function<void()> onConnectionLost);
   X11Injection(const X11Injection&) = delete;
   X11Injection& operator=(const X11Injection&) = delete;
   ~X11Injection() = default;
@@ -27,8 +32,7 @@ class X11Injection {
   X11HotKeys& hotKeys() { return keys; }
 
  private:
-  XcbConnection posting;
-  XcbConnection grabbing;
+  X11Connections connections;
   X11AccessibilityTrust trust;
   XTestEventPoster poster;
   X11HotKeys keys;
