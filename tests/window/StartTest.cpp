@@ -2,11 +2,15 @@
 
 #include <linux/input-event-codes.h>
 
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+
 #include <csignal>
 #include <fstream>
-#include <memory>
 #include <sstream>
-#include <utility>
+#include <stdexcept>
 
 #include "FirstDrawing.h"
 #include "WindowTest.h"
@@ -54,12 +58,39 @@ TEST_F(FirstPicture, ShowsTheStateOfTheMachineAlready) {
   EXPECT_EQ(screen.picture(window()), first);
 }
 
-TEST_F(Start, RightAfterTheProgramWasQuitItOpensAWindow) {
+/// A program that has the name of the running one, and ends when it is asked to show its window.
+class EndingProgram : public QDBusVirtualObject {
+ public:
+  explicit EndingProgram(const std::string& address)
+      : bus(QDBusConnection::connectToBus(QString::fromStdString(address), "ending program")) {
+    bus.registerVirtualObject("/org/vantorel/Vantorel", this);
+    if (!bus.registerService(name)) throw std::runtime_error("the name is taken");
+  }
+  EndingProgram(const EndingProgram&) = delete;
+  EndingProgram& operator=(const EndingProgram&) = delete;
+  ~EndingProgram() override { QDBusConnection::disconnectFromBus("ending program"); }
+
+  QString introspect(const QString& /*path*/) const override { return {}; }
+
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& /*connection*/) override {
+    isAsked = true;
+    bus.unregisterService(name);
+    return bus.send(message.createErrorReply(QDBusError::ServiceUnknown, "gone"));
+  }
+
+  bool isAsked = false;
+
+ private:
+  const QString name = "org.vantorel.Vantorel";
+  QDBusConnection bus;
+};
+
+TEST_F(Start, TakesThePlaceOfAProgramThatEndsAtThatMoment) {
+  EndingProgram former(session.bus().address());
   start();
-  EXPECT_EQ(startAgain({"--quit"}), 0);
-  const std::unique_ptr<Process> former = std::move(program);
-  start();
-  EXPECT_TRUE(eventually([&] { return !former->isRunning(); }));
+  EXPECT_TRUE(former.isAsked);
+  EXPECT_EQ(startAgain({"--toggle"}), 0);
+  EXPECT_TRUE(eventuallySays(mappingOn));
 }
 
 class SmallScreen : public WindowTest {
