@@ -16,7 +16,7 @@ struct WatchedTooLate : std::runtime_error {
 };
 
 /// Waits, as another client of an X server, until a program has drawn into its main window for the first
-/// time.
+/// time. Where there is no window manager it is one itself, so that no window is seen before it is watched.
 class FirstDrawing {
  public:
   /// Watches the windows of `display`, or that of the environment, that are made from now on. Throws

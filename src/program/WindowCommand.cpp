@@ -42,8 +42,7 @@ struct Partners {
 
 /// Lets them answer while the main thread works: all take their time. Qt's own connection to the session's
 /// bus is opened as well, which would otherwise be done for the screen readers at the first text of the
-/// window. `qtIsConnected` comes once Qt is connected to the display: libXau is not made for two threads at a
-/// time.
+/// window. The X server has its turn when `qtIsConnected`.
 std::future<Partners> beginToConnect(const RemoteControl::Handlers& handlers,
                                      std::future<void> qtIsConnected) {
   // Asked for here, as Qt takes the first thread that it meets for that of the application.

@@ -12,7 +12,8 @@
 namespace vantorel {
 
 /// The connections to the X server for input. Making them waits for the server, and throws std::runtime_error
-/// with a text for the user when there is none. Any thread.
+/// with a text for the user when there is none. Any thread, while no other connects to one: libXau is not
+/// made for that.
 struct X11Connections {
   XcbConnection posting;   ///< for events that are posted; used by several threads
   XcbConnection grabbing;  ///< for hot keys; read by the main event loop
