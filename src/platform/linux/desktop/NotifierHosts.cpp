@@ -5,7 +5,6 @@
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QTimer>
-#include <chrono>
 
 #include "SessionBus.h"
 
@@ -18,15 +17,10 @@ const QString watcherInterface = QStringLiteral("org.kde.StatusNotifierWatcher")
 
 constexpr int patience = 5000;  // ms for an answer
 
-/// To connect takes some milliseconds, which the first frame of the window should not wait for. That is drawn
-/// by now.
-constexpr std::chrono::milliseconds untilFirstFrame{100};
-
 }  // namespace
 
-NotifierHosts::NotifierHosts() : bus(QString()) {
-  QTimer::singleShot(untilFirstFrame, this, &NotifierHosts::connectToBus);
-}
+/// To connect takes its time, which the making of the window should not wait for.
+NotifierHosts::NotifierHosts() : bus(QString()) { QTimer::singleShot(0, this, &NotifierHosts::connectToBus); }
 
 NotifierHosts::~NotifierHosts() { disconnectFrom(bus); }
 

@@ -11,7 +11,7 @@
 namespace vantorel {
 
 /// Watches the session bus for a host of status-notifier items (a panel that shows them). It asks and listens
-/// without ever waiting, soon after it is made. Main thread.
+/// without ever waiting, from the first idle turn of the event loop on. Main thread.
 class NotifierHosts : public QObject {
   Q_OBJECT
 

@@ -19,7 +19,7 @@ class QtStatusBar : public StatusBar {
   /// Never null: the item shows once there is something to show it.
   std::unique_ptr<StatusItem> makeStatusItem() override;
 
-  /// False at first: it becomes known soon after the start of the event loop.
+  /// False at first: it becomes known with the first turns of the event loop.
   const Published<bool>& isPresent() const override { return present; }
 
  private:
