@@ -30,16 +30,23 @@ void paintDots(QPainter& painter, QSizeF size) {
     painter.drawEllipse(QRectF(corner, QSizeF(dotSize, dotSize)));
 }
 
-/// A few squares of the grid with their dots: the fewer of them cover a window, the sooner it is drawn.
-QPixmap tile(double scale, const QColor& ground) {
+/// The dots of a few squares, side by side: the fewer of these cover a row, the sooner it is drawn.
+QPixmap rowOfDots(double scale, const QColor& ground) {
   constexpr int squares = 8;
   const int pixels = qRound(spacing * scale);
-  QPixmap row(squares * pixels, pixels);
+  QPixmap row(squares * pixels, qRound(std::ceil(dotSize * scale)));
   row.setDevicePixelRatio(scale);
   row.fill(ground);
   QPainter painter(&row);
   paintDots(painter, QSizeF(squares * spacing, dotSize));
   return row;
+}
+
+/// Row by row: Qt shares out what is higher among threads, which takes longer than to draw it.
+void paintRepeatedDots(QPainter& painter, QSize size, const QColor& ground) {
+  const QPixmap dots = rowOfDots(painter.deviceTransform().m11(), ground);
+  for (int y = 0; y < size.height(); y += spacing)
+    painter.drawTiledPixmap(QRectF(0, y, size.width(), dots.deviceIndependentSize().height()), dots);
 }
 
 }  // namespace
@@ -57,13 +64,12 @@ std::vector<QPointF> dotGridPoints(QSizeF size) {
 void paintDotGrid(QPainter& painter, QSize size, const QColor& ground) {
   if (size.isEmpty()) return;
   const QRect layer({0, 0}, size);
-  const QTransform toDevice = painter.deviceTransform();
   painter.save();
   painter.setClipRect(layer, Qt::IntersectClip);
-  if (repeats(toDevice)) {
-    painter.drawTiledPixmap(layer, tile(toDevice.m11(), ground));
+  painter.fillRect(layer, ground);
+  if (repeats(painter.deviceTransform())) {
+    paintRepeatedDots(painter, size, ground);
   } else {
-    painter.fillRect(layer, ground);
     paintDots(painter, size);
   }
   painter.restore();

@@ -13,7 +13,7 @@ struct HardShadow {
   int offset;      ///< points to the right and points down
 };
 
-/// Draws the shadow of `rect`; the rectangle itself is to be drawn over it, opaque.
+/// Draws what is seen of the shadow of `rect` beside it.
 void paintHardShadow(QPainter& painter, const QRectF& rect, const HardShadow& shadow);
 
 }  // namespace vantorel

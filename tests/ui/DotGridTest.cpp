@@ -105,5 +105,12 @@ TEST(DotGrid, LiesOnTheColourOfTheWindow) {
   EXPECT_NE(image.pixelColor(41, 41), AppTheme::background());
 }
 
+TEST(DotGrid, IsDrawnWithoutFurtherThreads) {
+  DotGridBackground page;
+  page.resize(400, 900);
+  rendered(page);
+  EXPECT_EQ(drawingThreads(), 0);
+}
+
 }  // namespace
 }  // namespace vantorel

@@ -2,6 +2,9 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
 
 #include "AppTheme.h"
 
@@ -50,6 +53,16 @@ testing::AssertionResult isNearly(const QColor& actual, const QColor& expected) 
   }
   return testing::AssertionFailure() << actual.name().toStdString() << " is not "
                                      << expected.name().toStdString();
+}
+
+int drawingThreads() {
+  int threads = 0;
+  for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+    std::string name;
+    std::getline(std::ifstream(task.path() / "comm") >> std::ws, name);
+    if (name == "Thread (pooled)") ++threads;
+  }
+  return threads;
 }
 
 std::string scaleName(const testing::TestParamInfo<double>& scale) {

@@ -24,6 +24,9 @@ QColor blended(const QColor& top, double opacity, const QColor& bottom);
 /// Whether no channel of the two differs by more than the rounding of opacities.
 testing::AssertionResult isNearly(const QColor& actual, const QColor& expected);
 
+/// The number of threads that Qt has made to draw with.
+int drawingThreads();
+
 /// The scale of a parameterized test as a part of its name.
 std::string scaleName(const testing::TestParamInfo<double>& scale);
 
