@@ -71,7 +71,7 @@ double advanceOf(const QRawFont& font, QChar character) {
 }  // namespace
 
 Lettering::Lettering(const QFont& monospacedFont)
-    : font(monospacedFont), letters(QRawFont::fromFont(font)), cell(advanceOf(letters, u'0')) {}
+    : font(asDrawn(monospacedFont)), letters(QRawFont::fromFont(font)), cell(advanceOf(letters, u'0')) {}
 
 QSizeF Lettering::size(const QString& line) const {
   if (!isPlain(line)) {

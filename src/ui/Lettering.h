@@ -19,6 +19,9 @@ class Lettering {
  public:
   explicit Lettering(const QFont& monospacedFont);
 
+  /// How high a line is that has no Chinese.
+  double lineHeight() const { return size({}).height(); }
+
   /// How wide the line is, with what its last glyph reaches over its own advance, and how high.
   QSizeF size(const QString& line) const;
 

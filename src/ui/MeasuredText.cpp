@@ -13,25 +13,26 @@ constexpr std::size_t heightsToKeep = 8;
 
 }  // namespace
 
-MeasuredText::MeasuredText(const QString& content, const QFont& lineFont)
+MeasuredText::MeasuredText(const QString& content, const QFont& lineFont, const Lettering& lineLettering)
     : text(content),
       font(lineFont),
-      unbroken(WrappedText(text, font, std::numeric_limits<double>::infinity()).size()) {}
+      lettering(lineLettering),
+      unbroken(WrappedText(text, lettering, std::numeric_limits<double>::infinity()).size()) {}
 
 double MeasuredText::heightIn(double width) const {
   if (unbroken.width() <= width) return unbroken.height();
   if (const auto known = heights.find(width); known != heights.end()) return known->second;
   if (heights.size() == heightsToKeep) heights.clear();
-  return heights[width] = WrappedText(text, font, width).size().height();
+  return heights[width] = WrappedText(text, lettering, width).size().height();
 }
 
 double MeasuredText::widestPart() const {
-  if (!widest) widest = vantorel::widestPart(text, font);
+  if (!widest) widest = vantorel::widestPart(text, lettering);
   return *widest;
 }
 
 const MeasuredText& upToDate(std::optional<MeasuredText>& kept, const QString& text, const QFont& font) {
-  if (!kept || !kept->isOf(text, font)) kept.emplace(text, font);
+  if (!kept || !kept->isOf(text, font)) kept.emplace(text, font, Lettering(font));
   return *kept;
 }
 

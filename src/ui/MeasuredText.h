@@ -6,12 +6,15 @@
 #include <map>
 #include <optional>
 
+#include "Lettering.h"
+
 namespace vantorel {
 
 /// How much room a text takes, for layouts that ask again and again: each answer is found once.
 class MeasuredText {
  public:
-  MeasuredText(const QString& content, const QFont& lineFont);
+  /// Of a text in `lineFont`, of which `lineLettering` is made: texts in one font share it.
+  MeasuredText(const QString& content, const QFont& lineFont, const Lettering& lineLettering);
 
   /// Its width where nothing but its own line breaks ends a line.
   double unbrokenWidth() const { return unbroken.width(); }
@@ -31,6 +34,7 @@ class MeasuredText {
  private:
   QString text;
   QFont font;
+  Lettering lettering;
   QSizeF unbroken;
   mutable std::map<double, double> heights;  ///< by the width, of which there are few at a time
   mutable std::optional<double> widest;

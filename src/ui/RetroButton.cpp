@@ -89,7 +89,7 @@ QColor RetroButton::currentFill() const {
 
 void RetroButton::paintLabel(QPainter& painter, const QRectF& area) const {
   const QColor white = Qt::white;
-  const WrappedText label(text(), font(), area.width() - symbolRoom(), Qt::AlignCenter);
+  const WrappedText label(text(), Lettering(font()), area.width() - symbolRoom(), Qt::AlignCenter);
   const double left = area.left() + (area.width() - symbolRoom() - label.size().width()) / 2;
   if (symbol) paintIcon(painter, *symbol, QRectF(left, area.top(), symbolSize, area.height()), white);
   label.paint(painter, QRectF(left + symbolRoom(), area.top(), label.size().width(), area.height()), white);

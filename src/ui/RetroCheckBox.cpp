@@ -1,6 +1,5 @@
 #include "RetroCheckBox.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -34,7 +33,7 @@ RetroCheckBox::RetroCheckBox(const QString& text, QWidget* parent) : QCheckBox(t
 }
 
 QRect RetroCheckBox::boxRect() const {
-  const double line = std::max(QFontMetricsF(font()).height(), double{boxSize});
+  const double line = std::max(Lettering(font()).lineHeight(), double{boxSize});
   return {frameMargin, frameMargin + qRound((line - boxSize) / 2), boxSize, boxSize};
 }
 
@@ -72,7 +71,7 @@ void RetroCheckBox::paintEvent(QPaintEvent* /*event*/) {
     paintIcon(painter, Icon::checkMark, box.adjusted(inset, inset, -inset, -inset), line);
   }
   QRectF area = rect().adjusted(frameMargin + boxSize + gap, frameMargin, -frameMargin, -frameMargin);
-  const WrappedText label(text(), font(), area.width());
+  const WrappedText label(text(), Lettering(font()), area.width());
   if (label.lineCount() == 1) area.translate(0, box.center().y() - area.top() - label.size().height() / 2);
   label.paint(painter, area, isEnabled() ? AppTheme::text() : AppTheme::secondaryText());
   if (hasFocus()) paintOutline(painter, rect(), focusWidth, AppTheme::secondaryAccent());

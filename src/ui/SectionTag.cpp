@@ -28,7 +28,7 @@ SectionTag::SectionTag(const QString& text, QWidget* parent)
 void SectionTag::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QRectF area = contentsRect();
-  const WrappedText lines(text(), font(), area.width(), alignment());
+  const WrappedText lines(text(), Lettering(font()), area.width(), alignment());
   QRectF plate = rect();
   const double textWidth = std::ceil(lines.size().width());
   const double textHeight = std::ceil(lines.size().height());

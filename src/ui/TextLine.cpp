@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <cmath>
 
+#include "Typography.h"
+
 namespace vantorel {
 
 QString fromCore(std::string_view text) {
@@ -11,13 +13,14 @@ QString fromCore(std::string_view text) {
 
 void paintTextLine(QPainter& painter, const QRectF& area, const QString& text, const QFont& font,
                    const QColor& color, Qt::Alignment alignment) {
-  const QFontMetricsF metrics(font);
+  const QFont drawn = asDrawn(font);
+  const QFontMetricsF metrics(drawn);
   double left = area.left();
   if (!(alignment & Qt::AlignLeft)) {
     const double room = area.width() - metrics.horizontalAdvance(text);
     left += alignment & Qt::AlignHCenter ? room / 2 : room;
   }
-  painter.setFont(font);
+  painter.setFont(drawn);
   painter.setPen(color);
   painter.drawText(QPointF(left, area.center().y() + metrics.capHeight() / 2), text);
 }
@@ -30,7 +33,8 @@ TextLine::TextLine(int lineHeight, const QFont& font, const QColor& color, QWidg
 }
 
 QSize TextLine::sizeHint() const {
-  return {static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))), minimumHeight()};
+  return {static_cast<int>(std::ceil(QFontMetricsF(asDrawn(font())).horizontalAdvance(text()))),
+          minimumHeight()};
 }
 
 void TextLine::paintEvent(QPaintEvent* /*event*/) {

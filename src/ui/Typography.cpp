@@ -26,4 +26,9 @@ QFont systemFont(int points, QFont::Weight weight) {
   return fontOf(QStringLiteral("DejaVu Sans"), points, weight);
 }
 
+QFont asDrawn(QFont font) {
+  if (font.weight() > QFont::Bold) font.setWeight(QFont::Bold);
+  return font;
+}
+
 }  // namespace vantorel

@@ -18,4 +18,8 @@ QFont monospaced(int points = bodySize, QFont::Weight weight = QFont::Normal);
 /// The proportional font of the mapping list and the key picker, with the same families behind it.
 QFont systemFont(int points = bodySize, QFont::Weight weight = QFont::Normal);
 
+/// `font` in the heaviest weight that its family has, where it asks for more: Qt loads each weight that it is
+/// asked for as a font of its own, though it draws them alike.
+QFont asDrawn(QFont font);
+
 }  // namespace vantorel

@@ -3,8 +3,6 @@
 #include <QTextBoundaryFinder>
 #include <algorithm>
 
-#include "Lettering.h"
-
 namespace vantorel {
 
 namespace {
@@ -23,8 +21,7 @@ class Paragraph {
       : text(content),
         lettering(usedLettering),
         pens(lettering.pens(text)),
-        unicodeBreaks(QTextBoundaryFinder::Line, text),
-        characters(QTextBoundaryFinder::Grapheme, text) {}
+        unicodeBreaks(QTextBoundaryFinder::Line, text) {}
 
   QString part(qsizetype begin, qsizetype end) const {
     return text.mid(begin, withoutBlanks(begin, end) - begin);
@@ -88,7 +85,8 @@ class Paragraph {
   }
 
   /// Inside a word: as many whole characters as fit, but at least one.
-  qsizetype forcedEnd(qsizetype begin, double limit) {
+  qsizetype forcedEnd(qsizetype begin, double limit) const {
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
     characters.setPosition(begin);
     qsizetype end = characters.toNextBoundary();
     for (qsizetype next = end; next > 0 && fits(begin, next, limit); next = characters.toNextBoundary()) {
@@ -101,15 +99,14 @@ class Paragraph {
   const Lettering& lettering;
   std::vector<double> pens;
   QTextBoundaryFinder unicodeBreaks;
-  QTextBoundaryFinder characters;
 };
 
 }  // namespace
 
-WrappedText::WrappedText(const QString& text, const QFont& lineFont, double width, Qt::Alignment alignment)
-    : font(lineFont), place(alignment) {
+WrappedText::WrappedText(const QString& text, const Lettering& lineLettering, double width,
+                         Qt::Alignment alignment)
+    : lettering(lineLettering), place(alignment) {
   constexpr double roundingError = 0.01;
-  const Lettering lettering(font);
   for (const QString& content : text.split(u'\n')) {
     if (const QSizeF whole = lettering.size(content); whole.width() <= width) {
       lines.push_back({content, whole});
@@ -134,7 +131,6 @@ QSizeF WrappedText::size() const {
 }
 
 void WrappedText::paint(QPainter& painter, const QRectF& area, const QColor& color) const {
-  const Lettering lettering(font);
   double y = area.top();
   if (place & Qt::AlignVCenter) y += (area.height() - size().height()) / 2;
   if (place & Qt::AlignBottom) y += area.height() - size().height();
@@ -149,8 +145,7 @@ void WrappedText::paint(QPainter& painter, const QRectF& area, const QColor& col
   }
 }
 
-double widestPart(const QString& text, const QFont& font) {
-  const Lettering lettering(font);
+double widestPart(const QString& text, const Lettering& lettering) {
   double widest = 0;
   for (const QString& content : text.split(u'\n')) {
     Paragraph paragraph(content, lettering);

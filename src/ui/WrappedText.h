@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QColor>
-#include <QFont>
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <vector>
+
+#include "Lettering.h"
 
 namespace vantorel {
 
@@ -15,7 +16,7 @@ namespace vantorel {
 class WrappedText {
  public:
   /// `text` in lines at most `width` points wide; its own line breaks are kept.
-  WrappedText(const QString& text, const QFont& lineFont, double width,
+  WrappedText(const QString& text, const Lettering& lineLettering, double width,
               Qt::Alignment alignment = Qt::AlignLeft);
 
   int lineCount() const { return static_cast<int>(lines.size()); }
@@ -31,12 +32,12 @@ class WrappedText {
     QSizeF size;
   };
 
-  QFont font;
+  Lettering lettering;
   std::vector<Line> lines;
   Qt::Alignment place;
 };
 
 /// The width of the widest part of `text` that only the last resort would break.
-double widestPart(const QString& text, const QFont& font);
+double widestPart(const QString& text, const Lettering& lettering);
 
 }  // namespace vantorel

@@ -1,6 +1,5 @@
 #include "WrappingLabel.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -50,13 +49,14 @@ void WrappingLabel::reserveFor(const QStringList& alternatives) {
 const std::vector<MeasuredText>& WrappingLabel::measuredTexts() const {
   if (!measured.empty() && measured.front().isOf(text(), font())) return measured;
   if (!measured.empty() && measured.front().hasFont(font())) {
-    measured.front() = MeasuredText(text(), font());
+    measured.front() = MeasuredText(text(), font(), Lettering(font()));
     return measured;
   }
+  const Lettering lettering(font());
   measured.clear();
-  measured.emplace_back(text(), font());
-  for (const QString& alternative : reservedTexts) measured.emplace_back(alternative, font());
-  if (reservedLines > 0) measured.emplace_back(QString(reservedLines - 1, u'\n'), font());
+  measured.emplace_back(text(), font(), lettering);
+  for (const QString& alternative : reservedTexts) measured.emplace_back(alternative, font(), lettering);
+  if (reservedLines > 0) measured.emplace_back(QString(reservedLines - 1, u'\n'), font(), lettering);
   return measured;
 }
 
@@ -84,13 +84,13 @@ QSize WrappingLabel::minimumSizeHint() const {
     if (canBeWider) widest = std::max(widest, one.widestPart());
   }
   const int width = roundedUp(std::min(widest, longestKeptWord)) + margins.left() + margins.right();
-  return {width, roundedUp(QFontMetricsF(font()).height()) + margins.top() + margins.bottom()};
+  return {width, roundedUp(Lettering(font()).lineHeight()) + margins.top() + margins.bottom()};
 }
 
 void WrappingLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QRectF area = contentsRect();
-  WrappedText(text(), font(), area.width(), alignment()).paint(painter, area, textColor);
+  WrappedText(text(), Lettering(font()), area.width(), alignment()).paint(painter, area, textColor);
 }
 
 }  // namespace vantorel

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <cmath>
 
 #include "GamepadButton.h"
 #include "KeyboardKey.h"
@@ -41,15 +43,16 @@ class LetteringIn : public testing::TestWithParam<std::pair<int, QFont::Weight>>
   const Lettering lettering{font};
 };
 
-INSTANTIATE_TEST_SUITE_P(Lettering, LetteringIn,
-                         testing::Values(std::pair(9, QFont::Normal), std::pair(9, QFont::Bold),
-                                         std::pair(10, QFont::Normal), std::pair(10, QFont::Bold),
-                                         std::pair(12, QFont::Normal), std::pair(12, QFont::Bold),
-                                         std::pair(13, QFont::Normal), std::pair(26, QFont::Bold)),
-                         [](const auto& of) {
-                           return std::to_string(of.param.first) +
-                                  (of.param.second == QFont::Bold ? "Bold" : "");
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Lettering, LetteringIn,
+    testing::Values(std::pair(9, QFont::Normal), std::pair(9, QFont::Bold), std::pair(10, QFont::Normal),
+                    std::pair(10, QFont::Bold), std::pair(12, QFont::Normal), std::pair(12, QFont::Bold),
+                    std::pair(13, QFont::Normal), std::pair(26, QFont::Bold), std::pair(10, QFont::Black)),
+    [](const auto& of) {
+      return std::to_string(of.param.first) + (of.param.second == QFont::Normal ? ""
+                                               : of.param.second == QFont::Bold ? "Bold"
+                                                                                : "Black");
+    });
 
 TEST_P(LetteringIn, MeasuresAsQtLaysOut) {
   constexpr double roundingOfGlyphs = 1;  // an outline that is made bold
@@ -59,6 +62,10 @@ TEST_P(LetteringIn, MeasuresAsQtLaysOut) {
         << text.toStdString();
     EXPECT_DOUBLE_EQ(lettering.size(text).height(), layout.line().height()) << text.toStdString();
   }
+}
+
+TEST_P(LetteringIn, KnowsTheHeightOfALine) {
+  EXPECT_DOUBLE_EQ(lettering.lineHeight(), std::ceil(QFontMetricsF(font).height()));
 }
 
 TEST_P(LetteringIn, KnowsWhereEachCharacterBegins) {

@@ -52,7 +52,7 @@ TEST_P(RetroButtonAtScale, CastsAHardShadowTwoPointsRightAndDown) {
 
 TEST(RetroButton, PadsItsLabelBySixteenAndEightPoints) {
   RetroButton button(AppTheme::accent(), QStringLiteral("FIX"));
-  const QSizeF label = WrappedText(button.text(), button.font(), 1000).size();
+  const QSizeF label = WrappedText(button.text(), Lettering(button.font()), 1000).size();
   EXPECT_EQ(button.sizeHint(), QSize(static_cast<int>(std::ceil(label.width())) + 2 * 16 + 2,
                                      static_cast<int>(std::ceil(label.height())) + 2 * 8 + 2));
   button.resize(button.sizeHint());

@@ -22,6 +22,12 @@ TEST(Typography, IsMonospacedInEverySizeAndWeight) {
 
 TEST(Typography, HasBodyTextOfThirteenPoints) { EXPECT_EQ(monospaced().pixelSize(), 13); }
 
+TEST(Typography, DrawsNothingHeavierThanBold) {
+  EXPECT_EQ(asDrawn(systemFont(13, QFont::Black)), systemFont(13, QFont::Bold));
+  EXPECT_EQ(asDrawn(monospaced(9, QFont::Bold)), monospaced(9, QFont::Bold));
+  EXPECT_EQ(asDrawn(monospaced(9)), monospaced(9));
+}
+
 TEST(Typography, IsProportionalInTheList) {
   const QFontMetricsF metrics(systemFont(13, QFont::Bold));
   EXPECT_LT(metrics.horizontalAdvance("iiii"), metrics.horizontalAdvance("MMMM"));

@@ -27,7 +27,7 @@ const QStringList texts = {
 TEST(WrappedText, NeverExceedsItsWidth) {
   for (const QString& text : texts) {
     for (double width = 24; width < 300; width += 7) {
-      const WrappedText lines(text, monospaced(10, QFont::Bold), width);
+      const WrappedText lines(text, Lettering(monospaced(10, QFont::Bold)), width);
       EXPECT_LE(lines.size().width(), width + 0.02) << text.toStdString();
       EXPECT_GE(lines.lineCount(), 1);
     }
@@ -35,42 +35,44 @@ TEST(WrappedText, NeverExceedsItsWidth) {
 }
 
 int lineCount(const QString& text, double width) {
-  return WrappedText(text, monospaced(10), width).lineCount();
+  return WrappedText(text, Lettering(monospaced(10)), width).lineCount();
 }
 
 double widthOf(const char* text) {
-  return WrappedText(QString(text), monospaced(10), std::numeric_limits<double>::infinity()).size().width();
+  return WrappedText(QString(text), Lettering(monospaced(10)), std::numeric_limits<double>::infinity())
+      .size()
+      .width();
 }
 
 TEST(WrappedText, BreaksNamesAfterTheirUnderscores) {
   EXPECT_EQ(lineCount("DOWNLOAD_DRIVER", widthOf("DOWNLOAD_DRIVER")), 1);
   EXPECT_EQ(lineCount("DOWNLOAD_DRIVER", widthOf("DOWNLOAD_")), 2);
   EXPECT_EQ(lineCount("MENU_BAR_MODE", widthOf("MENU_BAR_")), 2);
-  EXPECT_EQ(widestPart("MENU_BAR_MODE", monospaced(10)), widthOf("MENU_"));
+  EXPECT_EQ(widestPart("MENU_BAR_MODE", Lettering(monospaced(10))), widthOf("MENU_"));
 }
 
 TEST(WrappedText, BreaksBetweenWordsAndBeforeBracketsButNotInNumbers) {
-  EXPECT_EQ(widestPart("move the cursor", monospaced(10)), widthOf("cursor"));
-  EXPECT_EQ(widestPart("PS4(Bluetooth)", monospaced(10)), widthOf("(Bluetooth)"));
-  EXPECT_EQ(widestPart("12:30", monospaced(10)), widthOf("12:30"));
+  EXPECT_EQ(widestPart("move the cursor", Lettering(monospaced(10))), widthOf("cursor"));
+  EXPECT_EQ(widestPart("PS4(Bluetooth)", Lettering(monospaced(10))), widthOf("(Bluetooth)"));
+  EXPECT_EQ(widestPart("12:30", Lettering(monospaced(10))), widthOf("12:30"));
 }
 
 TEST(WrappedText, BreaksBetweenChineseCharacters) {
-  EXPECT_EQ(widestPart("摇杆控制", monospaced(10)), widthOf("控制"));
+  EXPECT_EQ(widestPart("摇杆控制", Lettering(monospaced(10))), widthOf("控制"));
   EXPECT_EQ(lineCount("摇杆控制", widthOf("摇杆")), 2);
 }
 
 TEST(WrappedText, LeavesNoSingleCharacterOnTheLastLine) {
   const auto widthOfLines = [](const char* text, const char* room) {
-    return WrappedText(QString(text), monospaced(10), widthOf(room)).size().width();
+    return WrappedText(QString(text), Lettering(monospaced(10)), widthOf(room)).size().width();
   };
   EXPECT_DOUBLE_EQ(widthOfLines("滚动页面", "滚动页"), widthOf("滚动"));
   EXPECT_DOUBLE_EQ(widthOfLines("PS4 DualShock 4", "PS4 DualShock"), widthOf("DualShock 4"));
 }
 
 TEST(WrappedText, KeepsARemarkInFullWidthParenthesesWhole) {
-  EXPECT_EQ(widestPart("PS4 DualShock（蓝牙）", monospaced(10)), widthOf("DualShock"));
-  EXPECT_EQ(widestPart("Pro（蓝牙蓝牙蓝牙）", monospaced(10)), widthOf("（蓝牙蓝牙蓝牙）"));
+  EXPECT_EQ(widestPart("PS4 DualShock（蓝牙）", Lettering(monospaced(10))), widthOf("DualShock"));
+  EXPECT_EQ(widestPart("Pro（蓝牙蓝牙蓝牙）", Lettering(monospaced(10))), widthOf("（蓝牙蓝牙蓝牙）"));
   EXPECT_EQ(lineCount("PS4 DualShock（蓝牙）", widthOf("PS4 DualShock（蓝")), 2);
   EXPECT_EQ(lineCount("（蓝牙）摇杆", widthOf("（蓝牙）摇")), 2);
 }
@@ -81,7 +83,7 @@ TEST(WrappedText, BreaksInsideAWordOnlyWhereNothingElseHelps) {
 }
 
 TEST(WrappedText, DropsTheBlanksAtTheEndOfALine) {
-  const WrappedText lines("left right", monospaced(10), widthOf("right"));
+  const WrappedText lines("left right", Lettering(monospaced(10)), widthOf("right"));
   EXPECT_EQ(lines.lineCount(), 2);
   EXPECT_DOUBLE_EQ(lines.size().width(), widthOf("right"));
 }
