@@ -49,7 +49,7 @@ function(embed_fonts target sources)
               --no-hinting --unicodes=U+0020-007E,U+00A0-017F --text-file=${characters} ${without})
     set(description "${directory}/${number}.description")
     add_custom_command(OUTPUT "${description}" DEPENDS "${font}" VERBATIM
-      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${FC_QUERY} --format "%{-file,familylang,stylelang,fullname,fullnamelang,fontversion,capability,postscriptname,decorative,order,foundry,symbol,fonthashint{%{=unparse}}}" ${font} > ${description})
+      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${FC_QUERY} --format "%{-file,familylang,stylelang,fullname,fullnamelang,fontversion,capability,postscriptname,decorative,order,foundry,symbol,fonthashint,fontformat,color,variable,outline{%{=unparse}}}" ${font} > ${description})
     list(APPEND fonts "${font}" "${description}")
     string(APPEND entries "<file alias=\"${pattern}\">${font}</file>")
     string(APPEND descriptions "<file alias=\"${pattern}\">${description}</file>")

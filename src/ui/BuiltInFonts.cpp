@@ -42,6 +42,7 @@ bool hasSystemFonts() {
 
 /// By any of its names: where the user speaks Chinese, that of a Chinese font may come first.
 bool hasFamily(FcConfig* configuration, const QString& family) {
+  if (FcConfigGetFonts(configuration, FcSetSystem) == nullptr) return false;
   const std::unique_ptr<FcPattern, Release> wanted(FcPatternCreate());
   const std::unique_ptr<FcObjectSet, Release> nothingElse(FcObjectSetCreate());
   FcPatternAddString(wanted.get(), FC_FAMILY, bytes(family.toUtf8()));
