@@ -50,7 +50,7 @@ std::future<Partners> beginToConnect(const RemoteControl::Handlers& handlers,
   return std::async(std::launch::async, [handlers, mainThread, display = std::move(qtIsConnected)] {
     const QDBusConnection bus = connectToSessionBus();
     Partners partners{std::make_unique<RemoteControl>(bus, handlers, mainThread), std::nullopt};
-    if (bus.isConnected()) QDBusConnection::sessionBus();
+    sharedSessionBus();
     display.wait();
     if (isSet("DISPLAY")) partners.x11.emplace();
     return partners;

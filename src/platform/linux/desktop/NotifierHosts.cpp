@@ -19,13 +19,11 @@ constexpr int patience = 5000;  // ms for an answer
 
 }  // namespace
 
-/// To connect takes its time, which the making of the window should not wait for.
+/// The making of the window should not wait for the bus.
 NotifierHosts::NotifierHosts() : bus(QString()) { QTimer::singleShot(0, this, &NotifierHosts::connectToBus); }
 
-NotifierHosts::~NotifierHosts() { disconnectFrom(bus); }
-
 void NotifierHosts::connectToBus() {
-  bus = connectToSessionBus();
+  bus = sharedSessionBus();
   if (!bus.isConnected()) {
     there = false;
     return;

@@ -19,7 +19,6 @@ class NotifierHosts : public QObject {
   NotifierHosts();
   NotifierHosts(const NotifierHosts&) = delete;
   NotifierHosts& operator=(const NotifierHosts&) = delete;
-  ~NotifierHosts() override;
 
   /// Whether a host is there; empty while that is being asked.
   const Published<std::optional<bool>>& isThere() const { return there; }

@@ -25,6 +25,10 @@ QDBusConnection connectToSessionBus() {
   return address.isEmpty() ? QDBusConnection(name) : QDBusConnection::connectToBus(address, name);
 }
 
+QDBusConnection sharedSessionBus() {
+  return sessionBusAddress().isEmpty() ? QDBusConnection(QString()) : QDBusConnection::sessionBus();
+}
+
 void disconnectFrom(const QDBusConnection& bus) { QDBusConnection::disconnectFromBus(bus.name()); }
 
 }  // namespace vantorel

@@ -15,6 +15,10 @@ inline const QString remoteInterface = QStringLiteral("org.vantorel.RemoteContro
 /// an application.
 QDBusConnection connectToSessionBus();
 
+/// The connection that Qt has itself, made at the first call; not connected when the session has none, and no
+/// bus is started then either. Any thread. It stays until the program ends.
+QDBusConnection sharedSessionBus();
+
 /// Ends a connection made by connectToSessionBus().
 void disconnectFrom(const QDBusConnection& bus);
 
