@@ -51,8 +51,10 @@ QStringList familyLines(AppLanguage language) {
 }
 
 QStringList lastKeyLines(AppLanguage language) {
+  QStringList names;
+  for (const KeyboardKey key : allKeyboardKeys()) names += fromCore(displayName(key, language));
   QStringList lines;
-  for (const KeyboardKey key : allKeyboardKeys()) lines += lastKeyLine(language, key);
+  for (const QString& name : longestOf(names)) lines += line(language, lastKeyName, name);
   return lines;
 }
 
