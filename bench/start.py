@@ -2,11 +2,12 @@
 """start.py BUILD_DIRECTORY [RUNS]: the start of the window beside that of an empty Qt window.
 
 Prints the median time from start to first drawn frame, the memory that is a program's own share (PSS), and how
-often its threads wake up in ten idle seconds. Each run gets a fresh X server and message bus, and a home where the
-program was started once before: the very first start also writes the settings. A wake-up is a voluntary context
-switch.
+often its threads wake up in ten idle seconds. Each run has a fresh X server and message bus, and a home where the
+program was started once before: the very first start also writes the settings. The two programs start in turn, so that
+whatever else the machine does slows both. A wake-up is a voluntary context switch.
 """
 
+import contextlib
 import os
 import pathlib
 import signal
@@ -17,6 +18,7 @@ import tempfile
 import time
 
 IDLE_SECONDS = 10
+STARTS = 5  # of each program in a run
 
 
 def threads(pid):
@@ -60,7 +62,9 @@ def end(pid):
         time.sleep(0.01)
 
 
-def measure(build, program, idle):
+@contextlib.contextmanager
+def session():
+    """The environment of programs with an X server, a message bus and a home of their own."""
     with tempfile.TemporaryDirectory() as home:
         read_end, write_end = os.pipe()
         server = subprocess.Popen(
@@ -71,41 +75,61 @@ def measure(build, program, idle):
             display = answer.readline().strip()
         bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"],
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-        environment = dict(os.environ, DISPLAY=f":{display}", HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home,
-                           QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip())
-        pid = None
         try:
-            end(first_frame(build, program, environment)[0])
-            pid, milliseconds = first_frame(build, program, environment)
-            time.sleep(2)
-            memory = proportional_memory(pid)
-            before = wake_ups(pid)
-            time.sleep(idle)
-            return milliseconds, memory, wake_ups(pid) - before
+            yield dict(os.environ, DISPLAY=f":{display}", HOME=home, XDG_CONFIG_HOME=home, XDG_RUNTIME_DIR=home,
+                       QT_QPA_PLATFORM="xcb", DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip())
         finally:
-            if pid:
-                end(pid)
             for server_process in (bus, server):
                 server_process.terminate()
                 server_process.wait()
+
+
+@contextlib.contextmanager
+def started(build, program, environment):
+    """`program` with its first frame drawn: its process id and the milliseconds until then."""
+    pid, milliseconds = first_frame(build, program, environment)
+    try:
+        yield pid, milliseconds
+    finally:
+        end(pid)
+
+
+def start_times(build, programs, environment):
+    """Of each program, the milliseconds of a few starts."""
+    times = {name: [] for name in programs}
+    for _ in range(STARTS + 1):
+        for name, program in programs.items():
+            with started(build, program, environment) as (_, milliseconds):
+                times[name].append(milliseconds)
+    return {name: of_program[1:] for name, of_program in times.items()}
+
+
+def memory_and_wake_ups(build, program, environment):
+    with started(build, program, environment) as (pid, _):
+        time.sleep(2)
+        memory = proportional_memory(pid)
+        before = wake_ups(pid)
+        time.sleep(IDLE_SECONDS)
+        return memory, wake_ups(pid) - before
 
 
 def main():
     build = pathlib.Path(sys.argv[1]).resolve()
     runs = int(sys.argv[2]) if len(sys.argv) > 2 else 5
     programs = {"vantorel": build / "vantorel", "empty Qt window": build / "bench" / "bench_empty_window"}
-    medians = {}
+    times = {name: [] for name in programs}
     for _ in range(runs):
-        for name, program in programs.items():
-            last = len(medians.get(name, [])) == runs - 1
-            medians.setdefault(name, []).append(measure(build, program, IDLE_SECONDS if last else 0))
-    rows = {name: (statistics.median(run[0] for run in results), statistics.median(run[1] for run in results),
-                   results[-1][2]) for name, results in medians.items()}
+        with session() as environment:
+            for name, milliseconds in start_times(build, programs, environment).items():
+                times[name] += milliseconds
+    with session() as environment:
+        idle = {name: memory_and_wake_ups(build, program, environment) for name, program in programs.items()}
     print(f"{'':18}{'first frame':>14}{'memory':>14}{'wake-ups/10 s':>16}")
-    for name, (milliseconds, memory, wakes) in rows.items():
-        print(f"{name:18}{milliseconds:11.1f} ms{memory:10.1f} MiB{wakes:16d}")
-    ours, empty = rows["vantorel"], rows["empty Qt window"]
-    print(f"{'ratio':18}{ours[0] / empty[0]:13.2f}x{ours[1] / empty[1]:13.2f}x")
+    for name, (memory, wakes) in idle.items():
+        print(f"{name:18}{statistics.median(times[name]):11.1f} ms{memory:10.1f} MiB{wakes:16d}")
+    ours, empty = programs
+    print(f"{'ratio':18}{statistics.median(times[ours]) / statistics.median(times[empty]):13.2f}x"
+          f"{idle[ours][0] / idle[empty][0]:13.2f}x")
 
 
 if __name__ == "__main__":
