@@ -16,7 +16,7 @@ constexpr double dotOpacity = 0.05;
 
 bool isWhole(double number) { return number == std::floor(number); }
 
-/// Whether every dot falls on the pixels in the same way, so that one drawn square can be repeated.
+/// Whether every dot falls on the pixels in the same way, so that what is drawn once can be repeated.
 bool repeats(const QTransform& toDevice) {
   return toDevice.type() <= QTransform::TxScale && toDevice.m11() == toDevice.m22() &&
          isWhole(toDevice.m11() * spacing) && isWhole(toDevice.dx()) && isWhole(toDevice.dy());

@@ -13,7 +13,7 @@ struct HardShadow {
   int offset;      ///< points to the right and points down
 };
 
-/// Draws what is seen of the shadow of `rect` beside it.
+/// Draws what is seen of the shadow of `rect` beside it; `rect` is larger than the offset.
 void paintHardShadow(QPainter& painter, const QRectF& rect, const HardShadow& shadow);
 
 }  // namespace vantorel

@@ -106,10 +106,11 @@ TEST(DotGrid, LiesOnTheColourOfTheWindow) {
 }
 
 TEST(DotGrid, IsDrawnWithoutFurtherThreads) {
+  const int before = drawingThreads();
   DotGridBackground page;
   page.resize(400, 900);
   rendered(page);
-  EXPECT_EQ(drawingThreads(), 0);
+  EXPECT_EQ(drawingThreads(), before);
 }
 
 }  // namespace
