@@ -97,10 +97,12 @@ def started(build, program, environment):
 def start_times(build, programs, environment):
     """Of each program, the milliseconds of a few starts."""
     times = {name: [] for name in programs}
+    order = list(programs)
     for _ in range(STARTS + 1):
-        for name, program in programs.items():
-            with started(build, program, environment) as (_, milliseconds):
+        for name in order:
+            with started(build, programs[name], environment) as (_, milliseconds):
                 times[name].append(milliseconds)
+        order.reverse()  # the server may still clean up behind the one before
     return {name: of_program[1:] for name, of_program in times.items()}
 
 
@@ -118,12 +120,12 @@ def main():
     runs = int(sys.argv[2]) if len(sys.argv) > 2 else 5
     programs = {"vantorel": build / "vantorel", "empty Qt window": build / "bench" / "bench_empty_window"}
     times = {name: [] for name in programs}
-    for _ in range(runs):
+    for run in range(runs):
         with session() as environment:
             for name, milliseconds in start_times(build, programs, environment).items():
                 times[name] += milliseconds
-    with session() as environment:
-        idle = {name: memory_and_wake_ups(build, program, environment) for name, program in programs.items()}
+            if run == runs - 1:
+                idle = {name: memory_and_wake_ups(build, programs[name], environment) for name in programs}
     print(f"{'':18}{'first frame':>14}{'memory':>14}{'wake-ups/10 s':>16}")
     for name, (memory, wakes) in idle.items():
         print(f"{name:18}{statistics.median(times[name]):11.1f} ms{memory:10.1f} MiB{wakes:16d}")
