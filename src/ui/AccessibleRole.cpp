@@ -10,7 +10,7 @@ namespace {
 constexpr auto roleProperty = "accessibleRole";
 
 QAccessibleInterface* widgetWithRole(const QString& /*className*/, QObject* object) {
-  if (object->dynamicPropertyNames().isEmpty()) return nullptr;  // most; the names of all others take longer
+  if (object->dynamicPropertyNames().isEmpty()) return nullptr;  // most have none; a search takes longer
   const QVariant role = object->property(roleProperty);
   if (!role.isValid() || !object->isWidgetType()) return nullptr;
   return new QAccessibleWidget(qobject_cast<QWidget*>(object), static_cast<QAccessible::Role>(role.toInt()));

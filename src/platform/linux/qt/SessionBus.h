@@ -15,8 +15,8 @@ inline const QString remoteInterface = QStringLiteral("org.vantorel.RemoteContro
 /// an application.
 QDBusConnection connectToSessionBus();
 
-/// The connection that Qt has itself, made at the first call; not connected when the session has none, and no
-/// bus is started then either. Any thread. It stays until the program ends.
+/// The connection that Qt has itself, made at the first call; not connected, nor looked for, when the
+/// environment tells of no bus. Any thread. It stays until the program ends.
 QDBusConnection sharedSessionBus();
 
 /// Ends a connection made by connectToSessionBus().
