@@ -10,7 +10,7 @@ function(load_first target)
   if(failed)
     return()
   endif()
-  string(APPEND loaded "\tlibQt6Widgets.so.6 => ${widgets} (")
+  string(APPEND loaded "\tlibQt6Widgets.so.6 => ${widgets} (")  # ldd does not name the library itself
   set(paths "")
   foreach(library IN LISTS ARGN)
     string(REGEX REPLACE "([+.])" "[\\1]" name "${library}")
