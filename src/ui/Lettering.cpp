@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "Typography.h"
-
 namespace vantorel {
 
 namespace {

@@ -10,6 +10,8 @@
 #include <QString>
 #include <vector>
 
+#include "Typography.h"
+
 namespace vantorel {
 
 /// Measures and draws lines of text in the monospaced font. A letter takes one cell and a Chinese character
@@ -18,6 +20,9 @@ namespace vantorel {
 class Lettering {
  public:
   explicit Lettering(const QFont& monospacedFont);
+
+  /// Whether `other` is drawn in it as well.
+  bool isIn(const QFont& other) const { return asDrawn(other) == font; }
 
   /// How high a line is that has no Chinese.
   double lineHeight() const { return size({}).height(); }

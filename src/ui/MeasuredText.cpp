@@ -13,9 +13,8 @@ constexpr std::size_t heightsToKeep = 8;
 
 }  // namespace
 
-MeasuredText::MeasuredText(const QString& content, const QFont& lineFont, const Lettering& lineLettering)
+MeasuredText::MeasuredText(const QString& content, const Lettering& lineLettering)
     : text(content),
-      font(lineFont),
       lettering(lineLettering),
       unbroken(WrappedText(text, lettering, std::numeric_limits<double>::infinity()).size()) {}
 
@@ -32,7 +31,7 @@ double MeasuredText::widestPart() const {
 }
 
 const MeasuredText& upToDate(std::optional<MeasuredText>& kept, const QString& text, const QFont& font) {
-  if (!kept || !kept->isOf(text, font)) kept.emplace(text, font, Lettering(font));
+  if (!kept || !kept->isOf(text, font)) kept.emplace(text, Lettering(font));
   return *kept;
 }
 

@@ -13,8 +13,8 @@ namespace vantorel {
 /// How much room a text takes, for layouts that ask again and again: each answer is found once.
 class MeasuredText {
  public:
-  /// Of a text in `lineFont`, of which `lineLettering` is made: texts in one font share it.
-  MeasuredText(const QString& content, const QFont& lineFont, const Lettering& lineLettering);
+  /// Texts in one font can share a lettering.
+  MeasuredText(const QString& content, const Lettering& lineLettering);
 
   /// Its width where nothing but its own line breaks ends a line.
   double unbrokenWidth() const { return unbroken.width(); }
@@ -29,11 +29,10 @@ class MeasuredText {
     return content == text && hasFont(lineFont);
   }
 
-  bool hasFont(const QFont& lineFont) const { return lineFont == font; }
+  bool hasFont(const QFont& lineFont) const { return lettering.isIn(lineFont); }
 
  private:
   QString text;
-  QFont font;
   Lettering lettering;
   QSizeF unbroken;
   mutable std::map<double, double> heights;  ///< by the width, of which there are few at a time

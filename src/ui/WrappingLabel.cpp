@@ -49,14 +49,14 @@ void WrappingLabel::reserveFor(const QStringList& alternatives) {
 const std::vector<MeasuredText>& WrappingLabel::measuredTexts() const {
   if (!measured.empty() && measured.front().isOf(text(), font())) return measured;
   if (!measured.empty() && measured.front().hasFont(font())) {
-    measured.front() = MeasuredText(text(), font(), Lettering(font()));
+    measured.front() = MeasuredText(text(), Lettering(font()));
     return measured;
   }
   const Lettering lettering(font());
   measured.clear();
-  measured.emplace_back(text(), font(), lettering);
-  for (const QString& alternative : reservedTexts) measured.emplace_back(alternative, font(), lettering);
-  if (reservedLines > 0) measured.emplace_back(QString(reservedLines - 1, u'\n'), font(), lettering);
+  measured.emplace_back(text(), lettering);
+  for (const QString& alternative : reservedTexts) measured.emplace_back(alternative, lettering);
+  if (reservedLines > 0) measured.emplace_back(QString(reservedLines - 1, u'\n'), lettering);
   return measured;
 }
 
